@@ -1,0 +1,45 @@
+#pragma once
+
+#include "CatalogRecords.h"
+#include "ModeRecords.h"
+#include "RuntimeRecords.h"
+
+class AppState;
+
+/// What the daemon's records mean. Every face of the program asks here, so that
+/// the tray and the window can never disagree about the connection.
+namespace facts {
+
+/// The connection is up: a state field says so, or an active node connection is
+/// reported. In a VPN mode a tunnel that the daemon calls down is never counted
+/// as up, whatever node it still names.
+bool isConnected(const RuntimeInfo &runtime);
+
+/// Not connected, and on the way there.
+bool isPending(const RuntimeInfo &runtime);
+
+/// The account may connect.
+bool isSignedIn(const RuntimeInfo &runtime);
+
+bool isProxyMode(const ModeInfo &mode);
+bool isVantuVPNMode(const ModeInfo &mode);
+
+/// A VantuVPN or proxy mode that divides traffic.
+bool isSplit(const ModeInfo &mode);
+
+/// The node that the next connect uses: the status wins over the catalogue,
+/// which is fetched more rarely. Empty when the daemon chooses by itself.
+NodeEntry effectiveSelected(const RuntimeInfo &runtime, const NodesInfo &nodes);
+
+/// The node in use; empty unless connected.
+NodeEntry effectiveConnected(const RuntimeInfo &runtime, const NodesInfo &nodes);
+
+/// The kill switch: its own answers are the authority, the copy inside the
+/// status serves only until the first of them.
+const KillSwitchInfo &effectiveKillSwitch(const AppState &state);
+
+/// The kill switch holds traffic back (on or lockdown).
+bool isKillSwitchOn(const KillSwitchInfo &killSwitch);
+bool isLockdown(const KillSwitchInfo &killSwitch);
+
+} // namespace facts
