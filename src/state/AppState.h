@@ -76,6 +76,8 @@ public Q_SLOTS:
     void clearUser();
 
 private:
+    template<typename Record>
+    void store(Record &held, const Record &next, void (AppState::*changed)(const Record &));
     void tickCooldown();
 
     RuntimeInfo m_runtime;

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QList>
 #include <QSettings>
 #include <QString>
 #include <QStringList>
+
+#include <memory>
 
 /// A place that the user connected to lately.
 struct RecentNode
@@ -32,7 +35,10 @@ struct UpdateBookkeeping
 ///
 /// A plain value store for the GUI thread; several instances may be open on the
 /// same file, since every setter writes through at once. Setters return false and
-/// log a warning when the file could not be written.
+/// log a warning when the file could not be written; the value then holds for this
+/// process only. What is missing in the file or of the wrong type reads as its
+/// default. A damaged file is reported in the log and kept as "<name>.damaged"; what
+/// can still be read of it counts.
 class GuiPreferences final
 {
     Q_DISABLE_COPY_MOVE(GuiPreferences)
@@ -57,9 +63,11 @@ public:
     QString lastEffectiveLanguage() const;
     bool setLastEffectiveLanguage(const QString &code);
 
+    /// Stored trimmed, without empty and repeated texts.
     QStringList recentSearches() const;
     bool setRecentSearches(const QStringList &searches);
 
+    /// Stored without entries whose id is empty or repeated.
     QList<RecentNode> recentNodes() const;
     bool setRecentNodes(const QList<RecentNode> &nodes);
     /// Empties the list and notes that the user did so; puts both back when the
@@ -74,8 +82,8 @@ public:
 
 private:
     bool persist();
-    bool write(const QString &key, const QVariant &value);
+    bool write(QLatin1StringView key, const QVariant &value);
     void writeRecentNodes(const QList<RecentNode> &nodes);
 
-    QSettings m_settings;
+    std::unique_ptr<QSettings> m_settings;
 };

@@ -21,13 +21,17 @@ QString systemCode();
 
 Qt::LayoutDirection layoutDirection(const QString &code);
 
+/// English in any variant, which the texts are written in and so needs no
+/// translation.
+bool isSourceLanguage(const QString &code);
+
 /// The program can show this language: English, or a translation is compiled in.
 bool hasTranslation(const QString &code);
 
 /// Path of the compiled-in translation for a normalised code.
 QString translationResource(const QString &code);
 
-/// Every supported code, in canonical case.
+/// Every supported code, in canonical case and sorted.
 QStringList supportedCodes();
 
 } // namespace language
