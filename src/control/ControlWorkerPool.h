@@ -7,7 +7,6 @@
 
 #include <array>
 #include <chrono>
-#include <memory>
 
 /// Owns the three workers and the threads that they live on. Built and destroyed
 /// on the GUI thread; starts the threads at once.
@@ -24,6 +23,7 @@ public:
     explicit ControlWorkerPool(const QString &socketName = {}, QObject *parent = nullptr);
     ~ControlWorkerPool() override;
 
+    /// Dangling once shut down.
     const ControlWorkers &workers() const { return m_workers; }
 
     /// Cancels what runs, drops what is queued, and ends the threads. A thread
@@ -34,5 +34,6 @@ public:
 
 private:
     std::array<QThread *, 3> m_threads{};
-    ControlWorkers m_workers{};
+    ControlWorkers m_workers{}; ///< Each is deleted when its thread ends.
+    bool m_isShutDown = false;
 };

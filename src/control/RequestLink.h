@@ -5,8 +5,10 @@
 #include <QMap>
 #include <QMetaType>
 #include <QString>
+#include <QStringList>
 
 #include <array>
+#include <initializer_list>
 #include <optional>
 
 /// Everything that can be asked of a worker, one value for each of its slots and
@@ -101,7 +103,14 @@ public:
     template<class... Args>
     quint64 send(ControlRequest request, const Args &...args)
     {
-        return invoke(request, {argument(args)...});
+        return invoke(request, requestRoute(request).timeoutMs, {argument(args)...});
+    }
+
+    /// Like send(), with another time-out (ms) than the route's.
+    template<class... Args>
+    quint64 sendWithTimeout(ControlRequest request, int timeoutMs, const Args &...args)
+    {
+        return invoke(request, timeoutMs, {argument(args)...});
     }
 
     /// Takes the answer with this id off the list. Empty when nobody awaits it:
@@ -130,7 +139,8 @@ private:
     static Argument argument(const QStringList &value) { return {"QStringList", &value}; }
     static Argument argument(const ModeInfo &value) { return {"ModeInfo", &value}; }
 
-    quint64 invoke(ControlRequest request, std::initializer_list<Argument> arguments);
+    quint64 invoke(ControlRequest request, int timeoutMs,
+                   std::initializer_list<Argument> arguments);
 
     ControlWorkers m_workers;
     quint64 m_nextId;
