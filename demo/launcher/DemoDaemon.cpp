@@ -19,6 +19,7 @@ constexpr auto kDirectoryVariable = "VANTU_DEMO_DIRECTORY";
 constexpr auto kPidVariable = "VANTU_DEMO_DAEMON_PID";
 
 constexpr int kStartDeadlineMs = 5000;
+constexpr int kStopDeadlineMs = 2000;
 constexpr int kConnectWaitMs = 100;
 /// A daemon whose client died without stopping it leaves by itself.
 constexpr int kIdleSeconds = 60;
@@ -97,5 +98,10 @@ void DemoDaemon::stop()
         ::kill(static_cast<pid_t>(m_pid), SIGTERM);
         m_pid = 0;
     }
-    QDir(m_directory).removeRecursively();
+    // A removal fails over files that the daemon removes itself as it ends.
+    QElapsedTimer elapsed;
+    elapsed.start();
+    while (!QDir(m_directory).removeRecursively() && elapsed.elapsed() < kStopDeadlineMs) {
+        QThread::msleep(10);
+    }
 }

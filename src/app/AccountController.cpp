@@ -1,0 +1,108 @@
+#include "AccountController.h"
+
+#include "AppState.h"
+#include "NoticeSink.h"
+#include "RequestLink.h"
+#include "ServiceCompatibility.h"
+#include "ShellText.h"
+
+AccountController::AccountController(Parts parts, QObject *parent)
+    : QObject(parent)
+    , m_parts(std::move(parts))
+{}
+
+bool AccountController::changeAllowed(OperationOrigin origin)
+{
+    if (!m_busy && m_parts.operationAllowed()) {
+        return true;
+    }
+    if (origin == OperationOrigin::Window) {
+        m_parts.notices.show(ShellText::tr("Please wait for the current operation to finish"),
+                             MainWindow::NoticeKind::Info);
+    }
+    return false;
+}
+
+void AccountController::setBusy(bool busy)
+{
+    if (m_busy != busy) {
+        m_busy = busy;
+        Q_EMIT busyChanged(busy);
+    }
+}
+
+void AccountController::storeRuntime(const RuntimeInfo &info)
+{
+    if (!info.daemonState.isEmpty() || !info.tunnelState.isEmpty()) {
+        m_parts.state.setRuntime(info);
+    }
+}
+
+void AccountController::login(const QString &username, const QString &password, bool rememberMe)
+{
+    if (m_parts.compatibility.changeGuardPasses() && changeAllowed(OperationOrigin::Window)) {
+        setBusy(true);
+        m_parts.link.send(ControlRequest::Login, username, password, rememberMe);
+    }
+}
+
+void AccountController::logout(OperationOrigin origin)
+{
+    // Never refused for a version: the user must be able to leave.
+    if (changeAllowed(origin)) {
+        m_origin = origin;
+        setBusy(true);
+        Q_EMIT logoutStarted(m_parts.link.send(ControlRequest::Logout), origin);
+    }
+}
+
+void AccountController::fetchUser()
+{
+    m_parts.link.send(ControlRequest::FetchUser);
+}
+
+void AccountController::handleLogin(const RuntimeInfo &info, const QString &error)
+{
+    setBusy(false);
+    if (!error.isEmpty()) {
+        m_parts.notices.error(error, ShellText::tr("Could not sign in"));
+        return;
+    }
+    storeRuntime(info);
+    fetchUser();
+    Q_EMIT accountChanged();
+}
+
+void AccountController::handleLogout(quint64 requestId, const RuntimeInfo &info,
+                                     const QString &error)
+{
+    setBusy(false);
+    QString failure;
+    if (!error.isEmpty()) {
+        failure = error.trimmed();
+        if (failure.isEmpty()) {
+            failure = ShellText::tr("Could not sign out");
+        }
+        if (m_origin == OperationOrigin::Window) {
+            m_parts.notices.error(failure, failure);
+        }
+    } else {
+        // An answer still on its way would bring the old account back.
+        m_parts.link.forget(ControlRequest::FetchUser);
+        m_parts.state.clearUser();
+        storeRuntime(info);
+    }
+    Q_EMIT logoutEnded(requestId, info, failure);
+    if (failure.isEmpty()) {
+        Q_EMIT accountChanged();
+    }
+}
+
+void AccountController::handleUser(const UserInfo &user, const QString &error)
+{
+    if (error.isEmpty()) {
+        m_parts.state.setUser(user);
+    } else {
+        m_parts.notices.error(error, ShellText::tr("Could not load account"));
+    }
+}

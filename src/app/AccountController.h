@@ -1,0 +1,64 @@
+#pragma once
+
+#include "AccountRecords.h"
+#include "RuntimeRecords.h"
+#include "TrayOperations.h"
+
+#include <QObject>
+
+#include <functional>
+
+class AppState;
+class NoticeSink;
+class RequestLink;
+class ServiceCompatibility;
+
+/// Signing in and out.
+class AccountController final : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(AccountController)
+
+public:
+    /// What the requests need; everything must outlive the object.
+    struct Parts
+    {
+        RequestLink &link;
+        AppState &state;
+        NoticeSink &notices;
+        ServiceCompatibility &compatibility;
+        /// No other operation runs anywhere, and the daemon is available.
+        std::function<bool()> operationAllowed;
+    };
+
+    explicit AccountController(Parts parts, QObject *parent = nullptr);
+
+    bool isBusy() const { return m_busy; }
+
+    /// The password goes to the daemon and is not kept.
+    void login(const QString &username, const QString &password, bool rememberMe);
+    void logout(OperationOrigin origin);
+    void fetchUser();
+
+    /// Answers that the link still awaited.
+    void handleLogin(const RuntimeInfo &info, const QString &error);
+    void handleLogout(quint64 requestId, const RuntimeInfo &info, const QString &error);
+    void handleUser(const UserInfo &user, const QString &error);
+
+Q_SIGNALS:
+    void busyChanged(bool busy);
+    void logoutStarted(quint64 requestId, OperationOrigin origin);
+    /// `failure` is the text for the user, empty on success.
+    void logoutEnded(quint64 requestId, const RuntimeInfo &info, const QString &failure);
+    /// Another account, or none, is signed in now.
+    void accountChanged();
+
+private:
+    bool changeAllowed(OperationOrigin origin);
+    void setBusy(bool busy);
+    void storeRuntime(const RuntimeInfo &info);
+
+    Parts m_parts;
+    OperationOrigin m_origin = OperationOrigin::Window;
+    bool m_busy = false;
+};

@@ -1,0 +1,262 @@
+// The shell's named slots: each hands its wish or answer on in a line.
+
+#include "AccountController.h"
+#include "AppState.h"
+#include "CatalogController.h"
+#include "LanguageController.h"
+#include "ProtectionController.h"
+#include "ServiceCompatibility.h"
+#include "UpdateController.h"
+#include "VantuAppShell.h"
+#include "WindowController.h"
+
+void VantuAppShell::activateFromSecondary()
+{
+    m_windows->showOrRaise();
+    m_updates->checkIfDue();
+}
+
+void VantuAppShell::activateFromApplication()
+{
+    m_windows->activateFromApplication();
+}
+
+void VantuAppShell::handleGUIRestartFailed()
+{
+    m_language->handleRestartFailed();
+}
+
+void VantuAppShell::refreshLocationsAfterGUIRestart()
+{
+    m_catalog->startWatch();
+}
+
+void VantuAppShell::connectRuntime()
+{
+    m_connection->connectRuntime(OperationOrigin::Window);
+}
+
+void VantuAppShell::connectRuntimeFromTray()
+{
+    m_connection->connectRuntime(OperationOrigin::Tray);
+}
+
+void VantuAppShell::cancelConnect()
+{
+    m_connection->cancel(OperationOrigin::Window);
+}
+
+void VantuAppShell::cancelConnectFromTray()
+{
+    m_connection->cancel(OperationOrigin::Tray);
+}
+
+void VantuAppShell::disconnectRuntime()
+{
+    m_connection->disconnectRuntime(OperationOrigin::Window);
+}
+
+void VantuAppShell::disconnectRuntimeFromTray()
+{
+    m_connection->disconnectRuntime(OperationOrigin::Tray);
+}
+
+void VantuAppShell::setModePreference(const ModeInfo &mode)
+{
+    m_protection->setMode(mode);
+}
+
+void VantuAppShell::setLocalNetworkPreference(const QString &value)
+{
+    m_protection->setLocalNetwork(value);
+}
+
+void VantuAppShell::refreshLocations()
+{
+    m_catalog->refresh();
+}
+
+void VantuAppShell::connectNode(const QString &nodeID, const QString &label)
+{
+    m_connection->connectNode(nodeID, label, OperationOrigin::Window);
+}
+
+void VantuAppShell::connectNodeFromTray(const QString &nodeID, const QString &label)
+{
+    m_connection->connectNode(nodeID, label, OperationOrigin::Tray);
+}
+
+void VantuAppShell::connectSmart(const QString &selector)
+{
+    m_connection->connectSmart(selector);
+}
+
+void VantuAppShell::setSettingsKillSwitchEnabled(bool enabled)
+{
+    m_protection->setKillSwitchEnabled(enabled);
+}
+
+void VantuAppShell::setSettingsKillSwitchMode(const QString &mode)
+{
+    m_protection->setKillSwitchMode(mode);
+}
+
+void VantuAppShell::switchToAutoAndEnableKillSwitch()
+{
+    m_protection->switchToAutoAndEnableKillSwitch();
+}
+
+void VantuAppShell::chooseModeForKillSwitch()
+{
+    m_protection->chooseModeForKillSwitch();
+}
+
+void VantuAppShell::cancelPendingKillSwitchEnable()
+{
+    m_protection->cancelPendingKillSwitchEnable();
+}
+
+void VantuAppShell::setSettingsSystemProxyPreference(const QString &value)
+{
+    m_protection->setSystemProxy(value);
+}
+
+void VantuAppShell::loginAccount(const QString &username, const QString &password, bool rememberMe)
+{
+    m_account->login(username, password, rememberMe);
+}
+
+void VantuAppShell::logoutAccount()
+{
+    m_account->logout(OperationOrigin::Window);
+}
+
+void VantuAppShell::logoutAccountFromTray()
+{
+    m_account->logout(OperationOrigin::Tray);
+}
+
+void VantuAppShell::pollWindowCatalogRefresh()
+{
+    m_catalog->pollWatch();
+}
+
+void VantuAppShell::handleWindowStatusFinished(quint64 requestId, const RuntimeInfo &info,
+                                               const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_catalog->handleStatus(info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowNodesFinished(quint64 requestId, const NodesInfo &info,
+                                              const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_catalog->handleNodes(requestId, info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowNodeGroupsFinished(quint64 requestId, const NodeGroupsInfo &info,
+                                                   const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_catalog->handleNodeGroups(info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowConnectFinished(quint64 requestId, const RuntimeInfo &info,
+                                                const QString &errorMessage)
+{
+    if (const auto request = m_link.take(requestId)) {
+        m_connection->handleConnect(requestId, *request, info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowDisconnectFinished(quint64 requestId, const RuntimeInfo &info,
+                                                   const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_connection->handleDisconnect(requestId, info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowModeFinished(quint64 requestId, const ModeInfo &info,
+                                             const QString &errorMessage)
+{
+    if (const auto request = m_link.take(requestId)) {
+        m_protection->handleMode(*request, info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowVersionFinished(quint64 requestId, const VersionInfo &info,
+                                                const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_compatibility->handleVersion(info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowAPIURLFinished(quint64 requestId, const APIURLConfigInfo &info,
+                                               const QString &errorMessage)
+{
+    if (m_link.take(requestId) && errorMessage.isEmpty()) {
+        m_state->setAPIURLConfig(info);
+    }
+}
+
+void VantuAppShell::handleWindowLanguageFinished(quint64 requestId, const LanguageConfigInfo &info,
+                                                 const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_language->handleLanguage(info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowUpdateFinished(quint64 requestId, const UpdateInfo &info,
+                                               const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_updates->handleUpdate(info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowConfigPathsFinished(quint64 requestId, const ConfigPaths &info,
+                                                    const QString &errorMessage)
+{
+    if (m_link.take(requestId) && errorMessage.isEmpty()) {
+        m_state->setConfigPaths(info);
+    }
+}
+
+void VantuAppShell::handleWindowKillSwitchFinished(quint64 requestId, const KillSwitchInfo &info,
+                                                   const QString &errorMessage)
+{
+    if (const auto request = m_link.take(requestId)) {
+        m_protection->handleKillSwitch(*request, info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowLoginFinished(quint64 requestId, const RuntimeInfo &info,
+                                              const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_account->handleLogin(info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowLogoutFinished(quint64 requestId, const RuntimeInfo &info,
+                                               const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_account->handleLogout(requestId, info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowUserFinished(quint64 requestId, const UserInfo &info,
+                                             const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_account->handleUser(info, errorMessage);
+    }
+}

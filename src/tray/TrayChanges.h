@@ -1,0 +1,70 @@
+#pragma once
+
+#include "ControlRecords.h"
+#include "RequestLink.h"
+#include "TrayQuestions.h"
+
+#include <QObject>
+#include <QString>
+
+class AppState;
+class SharedTheme;
+class TrayOperations;
+class TrayPoll;
+
+/// The changes that the tray sends by itself: mode and routing, kill switch, local
+/// network and system proxy. Each is refused silently unless the daemon is available and
+/// nothing is busy, locks the menu until it is answered, and writes the answer into the
+/// store. A change that the mode or the kill switch rules out asks the user first.
+///
+/// Owned by the tray application, which feeds it the workers' answers. What it is given
+/// must outlive it.
+class TrayChanges final : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(TrayChanges)
+
+public:
+    TrayChanges(AppState &state, RequestLink &link, TrayOperations &operations, TrayPoll &poll,
+                SharedTheme &theme, QObject *parent = nullptr);
+
+    bool guardPasses() const;
+
+    void setMode(const ModeInfo &mode, const QString &statusText);
+    void setKillSwitchEnabled(bool enabled);
+    void setLocalNetwork(const QString &value);
+    void setSystemProxy(const QString &value);
+    void setProxyDefault(const QString &route);
+    void setProxyRegion(const QString &region);
+    void setProxyGFWList(bool enabled);
+    void setVantuDefault(const QString &route);
+    void setVantuRegion(const QString &region);
+    void setVantuGFWList(bool enabled);
+    void setVantuCustomRules(bool enabled);
+
+    void takeMode(quint64 requestId, const ModeInfo &mode, const QString &errorMessage);
+    /// Answers of the poll's read as well as of the change.
+    void takeKillSwitch(quint64 requestId, const KillSwitchInfo &info, const QString &errorMessage);
+
+Q_SIGNALS:
+    void begun();
+    /// A change was answered; `text` tells the user how it went.
+    void ended(const QString &text);
+    void switchToAutoAndEnableKillSwitchRequested();
+    void chooseModeForKillSwitchRequested();
+    void openKillSwitchSettingsRequested();
+
+private:
+    const ModeInfo &mode() const;
+    void begin(ControlRequest request, const QString &progressText, const QString &successText);
+    /// The failure in the daemon's own words, or `fallback` where it gave none.
+    void end(ControlRequest request, const QString &errorMessage, const QString &fallback);
+
+    AppState &m_state;
+    RequestLink &m_link;
+    TrayOperations &m_operations;
+    TrayPoll &m_poll;
+    TrayQuestions m_questions;
+    QString m_successText;  ///< Of the change under way.
+    ModeInfo m_modeRequest; ///< What the mode change under way asked for.
+};

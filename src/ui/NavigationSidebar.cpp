@@ -1,0 +1,109 @@
+#include "NavigationSidebar.h"
+
+#include "PlainText.h"
+#include "ThemePalette.h"
+#include "VantuNavCard.h"
+
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cstddef>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kMinimumWidth = 92;
+constexpr int kMargin = 8;
+
+struct Entry
+{
+    const char *name;
+    const char *text;
+    const char *icon;
+};
+
+constexpr std::array<Entry, kPageCount> kEntries{{
+    {"VantuSidebarVPN", QT_TRANSLATE_NOOP("NavigationSidebar", "VPN"), ":/icons/vpn.svg"},
+    {"VantuSidebarLocations", QT_TRANSLATE_NOOP("NavigationSidebar", "Locations"),
+     ":/icons/locations.svg"},
+    {"VantuSidebarMode", QT_TRANSLATE_NOOP("NavigationSidebar", "Mode"), ":/icons/mode.svg"},
+    {"VantuSidebarSettings", QT_TRANSLATE_NOOP("NavigationSidebar", "Settings"),
+     ":/icons/settings.svg"},
+    {"VantuSidebarAccount", QT_TRANSLATE_NOOP("NavigationSidebar", "Account"),
+     ":/icons/account.svg"},
+}};
+
+} // namespace
+
+NavigationSidebar::NavigationSidebar(QWidget *parent)
+    : QWidget(parent)
+{
+    setObjectName(u"VantuSidebar"_s);
+    setAttribute(Qt::WA_StyledBackground);
+    setMinimumWidth(kMinimumWidth);
+    setAccessibleName(tr("Pages"));
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, kMargin, 0, kMargin);
+    column->setSpacing(0);
+    for (std::size_t i = 0; i < m_cards.size(); ++i) {
+        const auto page = static_cast<Page>(i);
+        auto *card = new VantuNavCard(QString::fromLatin1(kEntries[i].name), pageName(page),
+                                      QString::fromLatin1(kEntries[i].icon), this);
+        connect(card, &QAbstractButton::clicked, this,
+                [this, i] { Q_EMIT pageRequested(static_cast<int>(i)); });
+        m_cards[i] = card;
+        column->addWidget(card);
+    }
+    column->addStretch(1);
+    setCurrentPage(Page::Vpn);
+}
+
+QString NavigationSidebar::pageName(Page page)
+{
+    return tr(kEntries[static_cast<std::size_t>(page)].text);
+}
+
+void NavigationSidebar::setCurrentPage(Page page)
+{
+    m_cards[static_cast<std::size_t>(page)]->setChecked(true);
+}
+
+void NavigationSidebar::setModeLine(const QString &line)
+{
+    m_cards[static_cast<std::size_t>(Page::Mode)]->setToolTip(plaintext::toolTip(line));
+}
+
+void NavigationSidebar::applyThemePalette(const ThemePalette &palette)
+{
+    for (VantuNavCard *card : m_cards) {
+        card->setColors(palette.textMuted, palette.sidebarSelectedText);
+    }
+}
+
+void NavigationSidebar::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Up:
+        moveFocus(-1);
+        break;
+    case Qt::Key_Down:
+        moveFocus(1);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void NavigationSidebar::moveFocus(int step)
+{
+    const auto current = std::find_if(m_cards.cbegin(), m_cards.cend(),
+                                      [](const VantuNavCard *card) { return card->hasFocus(); });
+    if (current == m_cards.cend()) {
+        return;
+    }
+    const auto index = static_cast<int>(current - m_cards.cbegin());
+    const int next = std::clamp(index + step, 0, kPageCount - 1);
+    m_cards[static_cast<std::size_t>(next)]->setFocus(Qt::TabFocusReason);
+}

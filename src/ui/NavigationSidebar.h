@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+
+class ThemePalette;
+class VantuNavCard;
+
+/// The pages by their fixed numbers, which other code addresses them by.
+enum class Page { Vpn = 0, Locations = 1, Mode = 2, Settings = 3, Account = 4 };
+
+inline constexpr int kPageCount = 5;
+
+/// The column of entries that choose the window's page. The arrow keys move between
+/// the entries; the window adds its own short cuts.
+class NavigationSidebar final : public QWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(NavigationSidebar)
+
+public:
+    explicit NavigationSidebar(QWidget *parent = nullptr);
+
+    /// Marks an entry as chosen, without a signal.
+    void setCurrentPage(Page page);
+    /// What the mode entry tells when the pointer rests on it.
+    void setModeLine(const QString &line);
+    void applyThemePalette(const ThemePalette &palette);
+
+    /// The name of a page, as its entry shows it.
+    static QString pageName(Page page);
+
+Q_SIGNALS:
+    void pageRequested(int index);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void moveFocus(int step);
+
+    std::array<VantuNavCard *, kPageCount> m_cards{};
+};

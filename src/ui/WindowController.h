@@ -1,0 +1,140 @@
+#pragma once
+
+#include "ConnectProgress.h"
+#include "ControlRecords.h"
+#include "MainWindow.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+
+class AppState;
+class GuiPreferences;
+class SharedTheme;
+
+/// The shell's one handle on the main window.
+///
+/// It makes the window only when it is first needed, repeats the window's
+/// requests as its own signals, opens links and folders, and is the place where
+/// notices are shown; a notice without a window is dropped. Lives on the GUI
+/// thread; the store, the preferences and the theme that it is given must outlive it.
+class WindowController final : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(WindowController)
+
+public:
+    /// Opens a link with the desktop; returns whether that worked.
+    using LinkOpener = std::function<bool(const QUrl &url)>;
+    /// Opens a local file with the desktop; returns whether that worked.
+    using FileLauncher = std::function<bool(const QString &path)>;
+
+    /// How long an ordinary notice stays.
+    static constexpr int kNoticeTimeoutMs = 5000;
+
+    WindowController(AppState &state, GuiPreferences &preferences, SharedTheme &theme,
+                     QObject *parent = nullptr);
+    ~WindowController() override;
+
+    void setHideToTray(bool hide);
+    void setExitAllowed(bool allowed);
+    void setLinkOpener(LinkOpener opener) { m_linkOpener = std::move(opener); }
+    void setFileLauncher(FileLauncher launcher) { m_fileLauncher = std::move(launcher); }
+
+    bool hasWindow() const { return !m_window.isNull(); }
+    bool isWindowVisible() const;
+    /// How many windows were made so far.
+    int windowsCreated() const { return m_windowsCreated; }
+
+    /// Closes the window for good, before the program leaves.
+    void closeForExit();
+
+    void setDaemonAvailable(bool available, const QString &reason);
+    void setConnectProgress(const ConnectProgress &progress);
+
+    /// A notice in the window; see MainWindow::showNotice().
+    void showNotice(const QString &message, MainWindow::NoticeKind kind,
+                    int timeoutMs = kNoticeTimeoutMs);
+    /// An error notice; an empty message becomes "Operation failed".
+    void showError(const QString &message);
+
+    /// Opens `url` with the desktop. An invalid one is ignored.
+    void openLink(const QUrl &url);
+    /// Hands `path` to the desktop; false unless it is an absolute path of an
+    /// existing regular file that could be opened.
+    bool launchFile(const QString &path);
+    void openLogDirectory(const ConfigPaths &paths);
+
+Q_SIGNALS:
+    void connectRuntimeRequested();
+    void cancelConnectRequested();
+    void disconnectRuntimeRequested();
+    void setModeRequested(const ModeInfo &mode);
+    void splitRulesRequested();
+    void importSplitRulesRequested(const QString &kind, const QString &content);
+    void setLocalNetworkRequested(const QString &value);
+    void refreshLocationsRequested();
+    void connectNodeRequested(const QString &nodeID, const QString &label);
+    void recentConnectionsCleared();
+    void connectSmartRequested(const QString &selector);
+    void setNodeFavoriteRequested(const QString &nodeID, bool favorite);
+    void openLogsRequested();
+    void settingsVisibleRequested();
+    void setKillSwitchEnabledRequested(bool enabled);
+    void setKillSwitchModeRequested(const QString &mode);
+    void switchToAutoAndEnableKillSwitchRequested();
+    void chooseModeForKillSwitchRequested();
+    void modePageLeft();
+    void setSystemProxyRequested(const QString &value);
+    void setAPIURLRequested(const QString &apiURL);
+    void resetAPIURLRequested();
+    void setAutoConnectRequested(const QString &value);
+    void setLanguageRequested(const QString &source, const QString &language);
+    void checkUpdateRequested();
+    void updateDownloadRequested();
+    void updateDownloadCancelRequested();
+    void setProxyListenersRequested(const QString &socksAddress, const QString &httpAddress);
+    void setSplitDNSLocalRequested(const QStringList &servers);
+    void setSplitDNSPolicyRequested(const QString &policy);
+    void clearSplitDNSLocalRequested();
+    void resetSplitDNSRequested();
+    void repairDiagnosticsRequested();
+    void loginRequested(const QString &username, const QString &password, bool rememberMe);
+    void logoutRequested();
+    void purchaseURLRequested(const QString &lang);
+    void forceUpdateExitRequested();
+
+    /// The window was closed while it can't be hidden to a tray.
+    void quitRequested();
+    /// The window came to the screen or left it.
+    void windowVisibilityChanged(bool visible);
+
+public Q_SLOTS:
+    void showOrRaise();
+    void showAccount();
+    void showLocations();
+    void showModePage();
+    void activateFromApplication();
+
+private:
+    void ensureWindow();
+    void connectWindow();
+    void handleHiddenToTray();
+    void applyTheme();
+
+    AppState &m_state;
+    GuiPreferences &m_preferences;
+    SharedTheme &m_theme;
+    QPointer<MainWindow> m_window;
+    bool m_hideToTray = true;
+    bool m_exitAllowed = false;
+    bool m_daemonAvailable = false;
+    QString m_unavailableReason;
+    ConnectProgress m_progress;
+    int m_windowsCreated = 0;
+    LinkOpener m_linkOpener;
+    FileLauncher m_fileLauncher;
+};

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "ColorScheme.h"
+
+#include <QColor>
+#include <QGuiApplication>
+#include <QObject>
+#include <QPalette>
+#include <QStyleHints>
+
+/// What differs between the supported releases of Qt's user interface modules: the
+/// only place of the look that asks for Qt's version.
+namespace qtcompat {
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+/// Whether Qt itself tells the desktop's colour scheme.
+inline constexpr bool kHasColorSchemeHint = true;
+
+/// The scheme as Qt tells it; Unknown where it can't.
+inline ColorScheme colorSchemeHint()
+{
+    switch (QGuiApplication::styleHints()->colorScheme()) {
+    case Qt::ColorScheme::Dark:
+        return ColorScheme::Dark;
+    case Qt::ColorScheme::Light:
+        return ColorScheme::Light;
+    case Qt::ColorScheme::Unknown:
+        break;
+    }
+    return ColorScheme::Unknown;
+}
+
+/// Calls `slot`, a member of `receiver`, after each change of colorSchemeHint().
+template<typename Receiver>
+void onColorSchemeHintChanged(Receiver *receiver, void (Receiver::*slot)())
+{
+    QObject::connect(QGuiApplication::styleHints(), &QStyleHints::colorSchemeChanged, receiver,
+                     slot);
+}
+#else
+inline constexpr bool kHasColorSchemeHint = false;
+
+inline ColorScheme colorSchemeHint()
+{
+    return ColorScheme::Unknown;
+}
+
+template<typename Receiver>
+void onColorSchemeHintChanged(Receiver *, void (Receiver::*)())
+{}
+#endif
+
+/// Sets the palette's accent role, which older releases of Qt don't have.
+inline void setAccent([[maybe_unused]] QPalette &palette,
+                      [[maybe_unused]] QPalette::ColorGroup group,
+                      [[maybe_unused]] const QColor &color)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 6, 0)
+    palette.setColor(group, QPalette::Accent, color);
+#endif
+}
+
+} // namespace qtcompat

@@ -1,0 +1,483 @@
+#include "ConfirmDialog.h"
+#include "TrayDesk.h"
+#include "TrayHost.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QPushButton *dialogButton(const QString &name)
+{
+    for (const QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && qobject_cast<const ConfirmDialog *>(widget) != nullptr) {
+            return widget->findChild<QPushButton *>(name);
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TestTrayApp final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Stands in for the desktop's file manager.
+    Q_INVOKABLE void takeOpened(const QUrl &url) { m_opened = url; }
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(m_host.start()); }
+    void init()
+    {
+        GuiPreferences preferences;
+        preferences.setRecentNodes({});
+    }
+    void cleanup() { QTRY_VERIFY(m_host.items().isEmpty()); }
+
+    void panelShowsFirstPoll();
+    void connectAndCancel();
+    void busyRefuses();
+    void originDecidesWhoTells();
+    void modeRequests_data();
+    void modeRequests();
+    void killSwitch();
+    void questions();
+    void answersOlderThanChange();
+    void openMenuWaits();
+    void recentNodesAndCoolDown();
+    void daemonLostAndBack();
+    void failedPoll();
+    void panelDiesAndReturns();
+    void logDirectory();
+
+private:
+    /// The panel's labels at the top of the menu, once they are as expected.
+    QString title() { return m_host.menu().labels().value(0); }
+    QString detail() { return m_host.menu().labels().value(1); }
+    TrayMenuItem entry(const QString &label)
+    {
+        const TrayMenuItem menu = m_host.menu();
+        const TrayMenuItem *found = menu.find(label);
+        return found == nullptr ? TrayMenuItem{} : *found;
+    }
+
+    TrayHost m_host;
+    QUrl m_opened;
+};
+
+void TestTrayApp::panelShowsFirstPoll()
+{
+    Desk desk;
+    desk.tray.start();
+    QTRY_COMPARE(m_host.items().size(), 1);
+    QCOMPARE(title(), u"Vantu: starting..."_s);
+    QCOMPARE(m_host.toolTip(), u"Vantu"_s);
+    const QImage off = m_host.icon();
+    QVERIFY(desk.start());
+
+    QTRY_COMPARE(title(), u"Vantu: disconnected"_s);
+    QTRY_VERIFY(entry(u"Account: me@example.org"_s).enabled);
+    QVERIFY(detail().startsWith(u"VantuVPN: Split (split default Tunnel, regions Direct CN"_s));
+    // Foreign names come as one plain line each, with their ampersands.
+    const QStringList nodes = entry(u"All Nodes"_s).labels();
+    QCOMPARE(nodes,
+             (QStringList{u"JP - Tokyo & <b>Co</b> [selected]"_s, u"US - Reno Nevada - p2p"_s}));
+    QVERIFY(entry(u"JP - Tokyo & <b>Co</b> [selected]"_s).checked);
+
+    QVERIFY(desk.poll(status("connected")));
+    QTRY_COMPARE(m_host.toolTip(), u"Vantu: connected"_s);
+    QTRY_VERIFY(m_host.icon() != off);
+    QVERIFY(entry(u"Disconnect"_s).enabled);
+
+    QSignalSpy open(&desk.tray, &VantuTrayApp::openVantuRequested);
+    QVERIFY(m_host.activate());
+    QTRY_COMPARE(open.size(), 1);
+    m_host.secondaryActivate();
+    desk.tray.handleTrayActivated(QSystemTrayIcon::Context);
+    QVERIFY(m_host.click(u"Open Vantu..."_s));
+    QTRY_COMPARE(open.size(), 2);
+    QSignalSpy quit(&desk.tray, &VantuTrayApp::quitRequested);
+    QVERIFY(m_host.click(u"Quit"_s));
+    QTRY_COMPARE(quit.size(), 1);
+}
+
+void TestTrayApp::connectAndCancel()
+{
+    Desk desk;
+    QVERIFY(desk.start());
+    QSignalSpy connecting(&desk.tray, &VantuTrayApp::connectRuntimeRequested);
+    QSignalSpy cancelling(&desk.tray, &VantuTrayApp::cancelConnectRequested);
+    QTRY_VERIFY(entry(u"Connect"_s).enabled);
+    QVERIFY(m_host.click(u"Connect"_s));
+    QTRY_COMPARE(connecting.size(), 1);
+
+    desk.tray.connectStarted(7, OperationOrigin::Tray, true, u"Reno\n&"_s);
+    QTRY_COMPARE(title(), u"Vantu: connecting Reno &..."_s);
+    QVERIFY(!entry(u"Node / Location"_s).enabled);
+    QVERIFY(m_host.click(u"Cancel"_s));
+    QTRY_COMPARE(cancelling.size(), 1);
+
+    desk.tray.cancelStarted(8, OperationOrigin::Tray);
+    QTRY_COMPARE(title(), u"Canceling..."_s);
+    QVERIFY(!entry(u"Connect"_s).enabled);
+    desk.tray.handleConnectFinished(7, {}, u"control request canceled"_s);
+    QVERIFY(!desk.tray.guardPasses());
+    desk.tray.handleDisconnectFinished(8, {}, {});
+    QVERIFY(desk.tray.guardPasses());
+
+    // A "Cancel" still on the screen when its connect has ended must not connect.
+    desk.tray.connectStarted(9, OperationOrigin::Tray, true);
+    const int id = entry(u"Cancel"_s).id;
+    m_host.aboutToShow(0);
+    desk.tray.handleConnectFinished(9, {}, {});
+    m_host.sendEvent(id, u"clicked"_s);
+    QTRY_COMPARE(entry(u"Connect"_s).id, id);
+    QCOMPARE(connecting.size(), 1);
+    QCOMPARE(cancelling.size(), 1);
+}
+
+void TestTrayApp::busyRefuses()
+{
+    Desk desk;
+    QVERIFY(!desk.tray.guardPasses());
+    QVERIFY(desk.start());
+    QVERIFY(desk.tray.guardPasses());
+    QSignalSpy asked(&desk.tray, &VantuTrayApp::connectRuntimeRequested);
+    QSignalSpy node(&desk.tray, &VantuTrayApp::connectNodeRequested);
+    const int id = entry(u"US - Reno Nevada - p2p"_s).id;
+    desk.tray.setExternalBusy(true);
+    desk.daemon.clearRequests();
+    // A status that comes meanwhile is not believed.
+    desk.daemon.setDefault("GET /v1/status", Reply::json(status("connected")));
+    desk.tray.refreshStatus();
+    QTRY_VERIFY(desk.daemon.routes().contains("GET /v1/kill-switch"));
+    QTest::qWait(0);
+    QCOMPARE(desk.state.runtime().tunnelState, u"disconnected"_s);
+    desk.daemon.clearRequests();
+    desk.tray.connectRuntime();
+    desk.tray.disconnectRuntime();
+    desk.tray.logoutAccount();
+    desk.tray.setSystemProxyPreference(u"on"_s);
+    desk.tray.setKillSwitchEnabled(true);
+    m_host.sendEvent(id, u"clicked"_s);
+    desk.tray.setExternalBusy(false);
+    // The end of the operation brings a poll of its own.
+    QTRY_VERIFY(desk.daemon.routes().contains("GET /v1/status"));
+    QCOMPARE(asked.size() + node.size(), 0);
+    QVERIFY(!desk.daemon.routes().contains("POST /v1/proxy/system-proxy"));
+    m_host.sendEvent(id, u"clicked"_s);
+    QTRY_COMPARE(node.size(), 1);
+    QCOMPARE(node.constFirst(), (QVariantList{u"b"_s, u"US - Reno Nevada"_s}));
+}
+
+void TestTrayApp::originDecidesWhoTells()
+{
+    Desk desk;
+    QVERIFY(desk.start());
+    desk.holdPolls();
+    desk.tray.connectStarted(1, OperationOrigin::Window, false);
+    desk.tray.handleConnectFinished(1, {}, u"no route"_s);
+    QVERIFY(detail() != u"no route"_s);
+    desk.tray.connectStarted(2, OperationOrigin::Tray, false);
+    desk.tray.handleConnectFinished(2, {}, u"no route"_s);
+    QTRY_COMPARE(detail(), u"no route"_s);
+    desk.tray.disconnectStarted(3, OperationOrigin::Tray);
+    desk.tray.handleDisconnectFinished(3, {}, u" "_s);
+    QTRY_COMPARE(detail(), u"Vantu: disconnect failed"_s);
+    desk.tray.logoutStarted(4, OperationOrigin::Tray);
+    QCOMPARE(title(), u"Vantu: logging out..."_s);
+    desk.tray.handleLogoutFinished(4, {}, {});
+    QTRY_COMPARE(detail(), u"Logged out"_s);
+}
+
+void TestTrayApp::modeRequests_data()
+{
+    QTest::addColumn<QStringList>("path");
+    QTest::addColumn<QByteArray>("route");
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QByteArray>("answer");
+    QTest::addColumn<QString>("detail");
+
+    const QByteArray mode = "POST /v1/mode";
+    QTest::newRow("auto") << QStringList{u"Mode"_s, u"Auto"_s} << mode
+                          << QByteArray(R"({"transport":"auto"})")
+                          << QByteArray(R"({"transport":"auto"})") << u"Mode updated"_s;
+    QTest::newRow("refused in silence")
+        << QStringList{u"Mode"_s, u"WireGuard"_s} << mode
+        << QByteArray(R"({"transport":"wireguard"})") << QByteArray(R"({"transport":"auto"})")
+        << u"Could not switch mode"_s;
+    QTest::newRow("split sends its whole profile")
+        << QStringList{u"Mode"_s, u"[ Mode: VantuVPN ]"_s, u"Split"_s} << mode
+        << QByteArray(R"({"policy":"split","split_profile":{"default_route":"tunnel",)"
+                      R"("direct_regions":["CN"],"gfwlist":true},"transport":"vantuvpn"})")
+        << QByteArray(R"({"transport":"vantuvpn","policy":"split","split_profile":)"
+                      R"({"default_route":"tunnel","direct_regions":["CN"],"gfwlist":true}})")
+        << u"Mode updated"_s;
+    QTest::newRow("system proxy") << QStringList{u"System Proxy"_s, u"Lock"_s}
+                                  << QByteArray("POST /v1/proxy/system-proxy")
+                                  << QByteArray(R"({"value":"lock"})")
+                                  << QByteArray(R"({"transport":"auto","system_proxy":"lock"})")
+                                  << u"System proxy set to Lock"_s;
+}
+
+void TestTrayApp::modeRequests()
+{
+    QFETCH(QStringList, path);
+    QFETCH(QByteArray, route);
+    Desk desk;
+    QVERIFY(desk.start());
+    QFETCH(QByteArray, answer);
+    desk.daemon.setDefault(route, heldJson(answer));
+    desk.holdPolls();
+    // The entry below the header of its section: labels come more than once.
+    const TrayMenuItem holder = entry(path.takeFirst());
+    int id = 0;
+    for (const TrayMenuItem &item : holder.children) {
+        if (!path.isEmpty() && item.label == path.constFirst()) {
+            path.removeFirst();
+            id = item.id;
+        }
+    }
+    QVERIFY(path.isEmpty());
+    m_host.sendEvent(id, u"clicked"_s);
+    QTRY_VERIFY(desk.daemon.routes().contains(route));
+    QTEST(desk.body(route), "body");
+    QVERIFY(!entry(u"WireGuard"_s).enabled);
+    QVERIFY(title().endsWith(u"..."_s));
+    desk.daemon.release();
+    QFETCH(QString, detail);
+    QTRY_COMPARE(this->detail(), detail);
+    QVERIFY(desk.tray.guardPasses());
+    QVERIFY(entry(u"WireGuard"_s).enabled);
+}
+
+void TestTrayApp::killSwitch()
+{
+    Desk desk;
+    QVERIFY(desk.start());
+    desk.holdPolls();
+    desk.daemon.setDefault("POST /v1/kill-switch", Reply::json(R"({"enabled":true,"mode":"on"})"));
+    QVERIFY(m_host.click(u"Kill Switch"_s));
+    QTRY_COMPARE(detail(), u"Kill switch enabled"_s);
+    QCOMPARE(desk.body("POST /v1/kill-switch"), QByteArray(R"({"enabled":true})"));
+    QVERIFY(entry(u"Kill Switch"_s).checked);
+
+    desk.daemon.setDefault("POST /v1/kill-switch", Reply::json(R"({"error":"no"})", 500));
+    QVERIFY(m_host.click(u"Kill Switch"_s));
+    QTRY_COMPARE(detail(), u"no"_s);
+    QVERIFY(entry(u"Kill Switch"_s).checked);
+
+    // Lockdown can't be left from here.
+    KillSwitchInfo lockdown = desk.state.killSwitch();
+    lockdown.mode = u"lockdown"_s;
+    desk.state.setKillSwitch(lockdown);
+    desk.daemon.clearRequests();
+    QVERIFY(m_host.click(u"Kill Switch"_s));
+    QTRY_VERIFY(entry(u"Kill Switch"_s).checked);
+    QVERIFY(desk.tray.guardPasses());
+    QVERIFY(!desk.daemon.routes().contains("POST /v1/kill-switch"));
+}
+
+void TestTrayApp::questions()
+{
+    Desk desk;
+    QVERIFY(desk.start());
+    QVERIFY(desk.poll(status("disconnected", "proxy")));
+    QSignalSpy toAuto(&desk.tray, &VantuTrayApp::switchToAutoAndEnableKillSwitchRequested);
+    QSignalSpy chooseMode(&desk.tray, &VantuTrayApp::chooseModeForKillSwitchRequested);
+    QSignalSpy settings(&desk.tray, &VantuTrayApp::openKillSwitchSettingsRequested);
+
+    // Two clicks, one question; its answer counts only if the guard still passes.
+    QVERIFY(m_host.click(u"Kill Switch"_s));
+    QVERIFY(m_host.click(u"Kill Switch"_s));
+    QTRY_VERIFY(dialogButton(u"VantuConfirmDialogAccept"_s));
+    QVERIFY(!entry(u"Kill Switch"_s).checked);
+    desk.tray.setExternalBusy(true);
+    dialogButton(u"VantuConfirmDialogAccept"_s)->click();
+    QTRY_VERIFY(!dialogButton(u"VantuConfirmDialogAccept"_s));
+    QCOMPARE(toAuto.size(), 0);
+    desk.tray.setExternalBusy(false);
+    for (const QString &name : {u"VantuConfirmDialogAccept"_s, u"VantuConfirmDialogAlternate"_s,
+                                u"VantuConfirmDialogReject"_s}) {
+        desk.tray.setKillSwitchEnabled(true);
+        QTRY_VERIFY(dialogButton(name));
+        dialogButton(name)->click();
+        QTRY_VERIFY(!dialogButton(name));
+    }
+    QCOMPARE(toAuto.size(), 1);
+    QCOMPARE(chooseMode.size(), 1);
+
+    KillSwitchInfo on;
+    on.known = on.enabled = true;
+    desk.state.setKillSwitch(on);
+    desk.tray.setProxyRoutingGFWList(true);
+    QTRY_VERIFY(dialogButton(u"VantuConfirmDialogAccept"_s));
+    dialogButton(u"VantuConfirmDialogAccept"_s)->click();
+    QTRY_COMPARE(settings.size(), 1);
+    QVERIFY(!desk.daemon.routes().contains("POST /v1/mode"));
+}
+
+void TestTrayApp::answersOlderThanChange()
+{
+    Desk desk;
+    QVERIFY(desk.start());
+    desk.daemon.enqueue("GET /v1/kill-switch", heldJson(R"({"enabled":false})"));
+    desk.daemon.setDefault("GET /v1/kill-switch", Reply::json(R"({"enabled":true})"));
+    desk.daemon.setDefault("POST /v1/kill-switch", Reply::json(R"({"enabled":true})"));
+    QVERIFY(desk.poll(status("disconnected")));
+    QSignalSpy changes(&desk.state, &AppState::killSwitchChanged);
+    desk.tray.setKillSwitchEnabled(true);
+    QTRY_COMPARE(changes.size(), 1);
+    desk.daemon.clearRequests();
+    desk.daemon.release();
+    QTRY_VERIFY(desk.daemon.routes().contains("GET /v1/kill-switch"));
+    QCOMPARE(changes.size(), 1);
+    QVERIFY(desk.state.killSwitch().enabled);
+    // Ids that nobody awaits, whosever they are.
+    desk.tray.handleKillSwitchFinished(1, {}, {});
+    RuntimeInfo foreign;
+    foreign.tunnelState = u"connected"_s;
+    desk.tray.handleStatusFinished(2, foreign, {});
+    QVERIFY(desk.state.killSwitch().enabled);
+    QCOMPARE(desk.state.runtime().tunnelState, u"disconnected"_s);
+}
+
+void TestTrayApp::openMenuWaits()
+{
+    Desk desk;
+    QVERIFY(desk.start());
+    QTRY_COMPARE(title(), u"Vantu: disconnected"_s);
+    m_host.aboutToShow(0);
+    QVERIFY(desk.poll(status("connected")));
+    QCOMPARE(title(), u"Vantu: disconnected"_s);
+    QCOMPARE(m_host.toolTip(), u"Vantu: connected"_s);
+    m_host.sendEvent(0, u"closed"_s);
+    QTRY_COMPARE(title(), u"Vantu: connected"_s);
+}
+
+void TestTrayApp::recentNodesAndCoolDown()
+{
+    Desk desk;
+    QVERIFY(desk.start());
+    QList<RecentNode> recents;
+    for (const auto *id : {"b", "a", "gone", "x", "y", "z"}) {
+        recents << RecentNode{QLatin1StringView(id), u"kept"_s, {}};
+    }
+    desk.preferences.setRecentNodes(recents);
+    desk.tray.recentNodesChanged();
+    QStringList labels = entry(u"Node / Location"_s).labels();
+    QCOMPARE(labels.mid(3, 6), (QStringList{u"US - Reno Nevada - p2p"_s,
+                                            u"JP - Tokyo & <b>Co</b>"_s, u"[gone] unavailable"_s,
+                                            u"[x] unavailable"_s, u"[y] unavailable"_s, u"-"_s}));
+    QVERIFY(desk.preferences.clearRecentNodes());
+    desk.tray.recentNodesChanged();
+    QCOMPARE(entry(u"Node / Location"_s).labels(),
+             (QStringList{u"Current: JP - Tokyo"_s, u"Refresh Nodes"_s, u"-"_s, u"All Nodes"_s,
+                          u"-"_s, u"Locations"_s}));
+
+    desk.daemon.setDefault("POST /v1/nodes/refresh", Reply::json(kNodes));
+    QVERIFY(m_host.click(u"Refresh Nodes"_s));
+    QTRY_COMPARE(desk.state.nodesRefreshCooldown(), 60);
+    QVERIFY(!entry(u"Refresh Nodes (60s)"_s).label.isEmpty());
+    QVERIFY(!entry(u"Refresh Nodes (60s)"_s).enabled);
+}
+
+void TestTrayApp::daemonLostAndBack()
+{
+    Desk desk;
+    QVERIFY(desk.start());
+    QVERIFY(desk.poll(status("connected")));
+    desk.tray.setDaemonAvailable(false, u"too\nold"_s);
+    QCOMPARE(title(), u"too old"_s);
+    QCOMPARE(detail(), u"too old"_s);
+    for (const QString &label : {u"Disconnect"_s, u"Refresh Status"_s, u"Logout"_s, u"Auto"_s,
+                                 u"Kill Switch"_s, u"Node / Location"_s}) {
+        QVERIFY2(!entry(label).enabled, qPrintable(label));
+    }
+    desk.daemon.clearRequests();
+    desk.tray.refreshStatus();
+    QSignalSpy polled(&desk.tray, &VantuTrayApp::statusPolled);
+    desk.tray.setDaemonAvailable(true, {});
+    // What is held serves until the answer is here.
+    QCOMPARE(title(), u"Vantu: connected"_s);
+    QTRY_VERIFY(!polled.isEmpty());
+    QCOMPARE(desk.daemon.routes().count("GET /v1/status"), 1);
+}
+
+void TestTrayApp::failedPoll()
+{
+    Desk desk;
+    QVERIFY(desk.start());
+    QVERIFY(desk.poll(status("connected")));
+    desk.daemon.setDefault("GET /v1/status", Reply::json(R"({"error":"on\nfire"})", 500));
+    QSignalSpy polled(&desk.tray, &VantuTrayApp::statusPolled);
+    QVERIFY(m_host.click(u"Refresh Status"_s));
+    QTRY_VERIFY(!polled.isEmpty());
+    QCOMPARE(polled.constFirst().constFirst().toBool(), false);
+    QCOMPARE(title(), u"Vantu: daemon unavailable"_s);
+    QCOMPARE(detail(), u"on fire"_s);
+    QCOMPARE(m_host.toolTip(), u"Vantu - daemon unavailable"_s);
+    QVERIFY(entry(u"Refresh Status"_s).enabled);
+    QVERIFY(!entry(u"Disconnect"_s).enabled);
+    // Back again, and signed out meanwhile.
+    QVERIFY(desk.poll(R"({"tunnel_state":"disconnected","auth_state":"logged_out"})"));
+    QCOMPARE(title(), u"Vantu: disconnected"_s);
+    QCOMPARE(desk.state.user(), UserInfo{});
+    QVERIFY(!entry(u"Account: Login Required"_s).label.isEmpty());
+    QVERIFY(!entry(u"Logout"_s).enabled);
+}
+
+void TestTrayApp::panelDiesAndReturns()
+{
+    Desk desk;
+    QVERIFY(desk.start());
+    QTRY_COMPARE(m_host.items().size(), 1);
+    m_host.stop();
+    QVERIFY(desk.poll(status("connected")));
+    QVERIFY(m_host.start());
+    QTRY_COMPARE(m_host.items().size(), 1);
+    QCOMPARE(title(), u"Vantu: connected"_s);
+    QSignalSpy logs(&desk.tray, &VantuTrayApp::openLocationsRequested);
+    QVERIFY(m_host.click(u"Locations"_s));
+    QTRY_COMPARE(logs.size(), 1);
+}
+
+void TestTrayApp::logDirectory()
+{
+    Desk desk;
+    QVERIFY(desk.start());
+    desk.holdPolls();
+    const QString directory = QDir::tempPath();
+    const QString missing = directory + u"/no such place"_s;
+    const auto paths = [](const QString &logs) {
+        return Reply::json(R"({"LogDir":")" + logs.toUtf8() + R"("})");
+    };
+    const QList<std::pair<Reply, QString>> cases{
+        {paths({}), u"missing log directory"_s},
+        {paths(missing), u"log directory does not exist: "_s + missing},
+        {Reply::json(R"({"error":"no\npaths"})", 500), u"no paths"_s},
+    };
+    for (const auto &[reply, text] : cases) {
+        desk.daemon.setDefault("GET /v1/config/path", reply);
+        QVERIFY(m_host.click(u"Open Logs"_s));
+        QTRY_COMPARE(detail(), text);
+        QTRY_VERIFY(entry(u"Open Logs"_s).enabled);
+    }
+    QDesktopServices::setUrlHandler(u"file"_s, this, "takeOpened");
+    desk.daemon.setDefault("GET /v1/config/path", paths(directory));
+    QVERIFY(m_host.click(u"Open Logs"_s));
+    QTRY_COMPARE(m_opened, QUrl::fromLocalFile(directory));
+    QDesktopServices::unsetUrlHandler(u"file"_s);
+}
+
+QTEST_MAIN(TestTrayApp)
+#include "tst_tray_app.moc"
