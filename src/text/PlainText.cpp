@@ -67,7 +67,9 @@ QString menuText(const QString &text)
 
 QString toolTip(const QString &text)
 {
-    return text.toHtmlEscaped();
+    // Said to be markup, since a text without any sign of it would be shown as it is,
+    // escapes and all.
+    return u"<qt>"_s + text.toHtmlEscaped().replace(u'\n', u"<br>"_s) + u"</qt>"_s;
 }
 
 QString messageText(const QString &text)

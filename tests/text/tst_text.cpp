@@ -107,7 +107,7 @@ void TestText::longTextsAreBounded()
     const QString line = plaintext::singleLine(u"abc\U0001F1EF\U0001F1F5"_s, 5);
     QCOMPARE(line, u"abc\u2026"_s);
     QCOMPARE(plaintext::messageText(u"<b>x</b>\n&"_s), u"\u2039b\u203ax\u2039/b\u203a &"_s);
-    QCOMPARE(plaintext::toolTip(u"<i>&\nb"_s), u"&lt;i&gt;&amp;\nb"_s);
+    QCOMPARE(plaintext::toolTip(u"<i>&\nb"_s), u"<qt>&lt;i&gt;&amp;<br>b</qt>"_s);
 }
 
 void TestText::connectionStates_data()
@@ -274,7 +274,7 @@ void TestText::nodeDetails()
     const NodeEntry entry = node(u"JP"_s, u"[a] Tokyo [b c] []"_s, {u"B C"_s, u"<d>"_s});
     QCOMPARE(NodeMenuModel::bracketedTags(entry.name), (QStringList{u"a"_s, u"b c"_s}));
     QCOMPARE(NodeMenuModel::allTags(entry), (QStringList{u"B C"_s, u"<d>"_s, u"a"_s}));
-    QCOMPARE(NodeMenuModel::toolTip(entry), u"JP - [a] Tokyo [b c] []\n&lt;d&gt;"_s);
+    QCOMPARE(NodeMenuModel::toolTip(entry), u"<qt>JP - [a] Tokyo [b c] []<br>&lt;d&gt;</qt>"_s);
     QCOMPARE(NodeMenuModel::unavailable(u"n9"_s), u"[n9] unavailable"_s);
 }
 

@@ -3,9 +3,11 @@
 #include "ColorScheme.h"
 
 #include <QColor>
+#include <QFont>
 #include <QGuiApplication>
 #include <QObject>
 #include <QPalette>
+#include <QSortFilterProxyModel>
 #include <QStyleHints>
 
 /// What differs between the supported releases of Qt's user interface modules: the
@@ -59,5 +61,36 @@ inline void setAccent([[maybe_unused]] QPalette &palette,
     palette.setColor(group, QPalette::Accent, color);
 #endif
 }
+
+/// Gives all digits the same width where the font and Qt can, so that a number that
+/// changes doesn't dance. Most fonts of desktops have such digits anyway.
+inline void setTabularFigures([[maybe_unused]] QFont &font)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+    font.setFeature(QFont::Tag("tnum"), 1);
+#endif
+}
+
+/// A proxy model whose choice of rows changes as a whole.
+class RowFilterProxyModel : public QSortFilterProxyModel
+{
+protected:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    /// Runs `change`, after which filterAcceptsRow() answers differently, and lets the
+    /// views know.
+    template<typename Change>
+    void changeRowsFilter(Change change)
+    {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 10, 0)
+        beginFilterChange();
+        change();
+        endFilterChange(QSortFilterProxyModel::Direction::Rows);
+#else
+        change();
+        invalidateRowsFilter();
+#endif
+    }
+};
 
 } // namespace qtcompat

@@ -1,5 +1,6 @@
 #include "ConfirmDialog.h"
 
+#include "PlainText.h"
 #include "StyleProperty.h"
 #include "TextStyle.h"
 #include "Theme.h"
@@ -116,7 +117,7 @@ QPushButton *ConfirmDialog::addButton(QHBoxLayout &row, const ConfirmButton &but
     auto *widget = new QPushButton(buttonText(button.text), this);
     widget->setAccessibleName(button.description.isEmpty() ? button.text : button.description);
     if (!button.description.isEmpty()) {
-        widget->setToolTip(button.description.toHtmlEscaped());
+        widget->setToolTip(plaintext::toolTip(button.description));
     }
     connect(widget, &QPushButton::clicked, this, [this, answer] { done(answer); });
     row.addWidget(widget);

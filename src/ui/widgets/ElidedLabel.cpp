@@ -1,0 +1,145 @@
+#include "ElidedLabel.h"
+
+#include "PlainText.h"
+
+#include <QFontMetrics>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStringList>
+#include <QStyle>
+#include <QTextLayout>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace {
+
+/// Keeps dots beside the left-to-right text that they stand for.
+constexpr QChar kLeftToRightMark(0x200E);
+
+/// A text as it is painted.
+struct Shown
+{
+    QStringList lines;
+    bool cut = false;
+};
+
+/// `text` cut off at the right end in a left-to-right layout, else at the left end, which
+/// is where text that itself runs from right to left has its end anyway. The last of several
+/// lines is cut off where reading stops, lest the middle of the text be lost.
+QString elided(const QString &text, const QLabel &label, int width, bool lastOfSeveral)
+{
+    const bool against = label.isRightToLeft() && !text.isRightToLeft();
+    const bool cutStart = against && !lastOfSeveral;
+    QString cut =
+        label.fontMetrics().elidedText(text, cutStart ? Qt::ElideLeft : Qt::ElideRight, width);
+    if (!against || cut == text) {
+        return cut;
+    }
+    return cutStart ? kLeftToRightMark + cut : cut + kLeftToRightMark;
+}
+
+Shown breakUp(const QLabel &label, int width, int maximumLines)
+{
+    QString rest = label.text();
+    rest.replace(u'\n', u' ').replace(u'\r', u' ');
+    Shown shown;
+    if (maximumLines > 1) {
+        QTextLayout layout(rest, label.font());
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        int start = 0;
+        while (shown.lines.size() < maximumLines - 1) {
+            QTextLine line = layout.createLine();
+            if (!line.isValid()) {
+                break;
+            }
+            line.setLineWidth(width);
+            shown.lines += rest.mid(line.textStart(), line.textLength()).trimmed();
+            start = line.textStart() + line.textLength();
+        }
+        layout.endLayout();
+        rest = rest.mid(start);
+    }
+    if (!rest.isEmpty() || shown.lines.isEmpty()) {
+        shown.lines += elided(rest, label, width, maximumLines > 1);
+        shown.cut = shown.lines.constLast() != rest;
+    }
+    return shown;
+}
+
+} // namespace
+
+ElidedLabel::ElidedLabel(QWidget *parent)
+    : ElidedLabel(QString(), parent)
+{}
+
+ElidedLabel::ElidedLabel(const QString &text, QWidget *parent)
+    : QLabel(text, parent)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+void ElidedLabel::setMaximumLines(int lines)
+{
+    m_maximumLines = std::max(lines, 1);
+    updateGeometry();
+    update();
+}
+
+QSize ElidedLabel::sizeHint() const
+{
+    return {QLabel::sizeHint().width(), minimumSizeHint().height()};
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {0, fontMetrics().lineSpacing() * m_maximumLines};
+}
+
+int ElidedLabel::heightForWidth(int width) const
+{
+    const auto lines = breakUp(*this, width, m_maximumLines).lines.size();
+    return fontMetrics().lineSpacing() * static_cast<int>(lines);
+}
+
+bool ElidedLabel::isElided() const
+{
+    return breakUp(*this, contentsRect().width(), m_maximumLines).cut;
+}
+
+bool ElidedLabel::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && isElided()) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        QToolTip::showText(help->globalPos(), plaintext::toolTip(text()), this);
+        return true;
+    }
+    return QLabel::event(event);
+}
+
+void ElidedLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    drawFrame(&painter);
+    const QRect area = contentsRect();
+    const QStringList lines = breakUp(*this, area.width(), m_maximumLines).lines;
+    const int lineHeight = fontMetrics().lineSpacing();
+    const QSize block(area.width(), lineHeight * static_cast<int>(lines.size()));
+    QRect place =
+        QStyle::alignedRect(layoutDirection(), alignment() & Qt::AlignVertical_Mask, block, area);
+    place.setHeight(lineHeight);
+
+    const auto side = QStyle::visualAlignment(layoutDirection(), alignment());
+    const int flags =
+        static_cast<int>((side & Qt::AlignHorizontal_Mask) | Qt::AlignAbsolute | Qt::AlignTop) |
+        Qt::TextSingleLine |
+        (isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight);
+    for (const QString &line : lines) {
+        style()->drawItemText(&painter, place, flags, palette(), isEnabled(), line,
+                              foregroundRole());
+        place.translate(0, lineHeight);
+    }
+}
