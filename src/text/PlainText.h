@@ -19,7 +19,8 @@ QString singleLine(const QString &text, qsizetype maxLength = kMaxLineLength);
 /// with every "&" doubled. Don't use it on the program's own texts.
 QString menuText(const QString &text);
 
-/// For tool tips, which may be read as markup: `text` escaped, line breaks kept.
+/// For tool tips, which may be read as markup: `text` as markup that shows it plainly,
+/// line breaks kept.
 QString toolTip(const QString &text);
 
 /// For desktop notifications, whose servers may read markup and don't say so:
