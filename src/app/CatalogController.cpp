@@ -30,6 +30,11 @@ bool CatalogController::isRefreshPending() const
     return m_refreshSent && m_link.pendingId(ControlRequest::FetchNodes) == m_refreshId;
 }
 
+bool CatalogController::isFetchingNodes() const
+{
+    return m_link.isPending(ControlRequest::FetchNodes);
+}
+
 void CatalogController::fetch()
 {
     fetchNodes();
@@ -58,6 +63,7 @@ void CatalogController::refresh()
     }
     m_refreshId = m_link.send(ControlRequest::FetchNodes, true);
     m_refreshSent = true;
+    Q_EMIT refreshingChanged(true);
     m_notices.show(ShellText::tr("Refreshing locations..."), MainWindow::NoticeKind::Info);
 }
 
@@ -149,10 +155,13 @@ void CatalogController::handleNodes(quint64 requestId, const NodesInfo &nodes, c
     const bool wasRefresh = m_refreshSent && requestId == m_refreshId;
     if (wasRefresh) {
         m_refreshSent = false;
+        Q_EMIT refreshingChanged(false);
     }
     if (!error.isEmpty()) {
         if (wasRefresh) {
-            m_notices.error(error, ShellText::tr("Could not refresh locations"));
+            const QString fallback = ShellText::tr("Could not refresh locations");
+            m_notices.error(error, fallback);
+            Q_EMIT failed(error.trimmed().isEmpty() ? fallback : error);
         }
         return;
     }
@@ -170,4 +179,5 @@ void CatalogController::handleNodeGroups(const NodeGroupsInfo &groups, const QSt
     } else {
         m_notices.error(error, ShellText::tr("Could not refresh location groups"));
     }
+    Q_EMIT groupsAnswered();
 }

@@ -40,6 +40,9 @@ public:
     /// Ignores the answer to a status request under way, which may be older than a change
     /// just made; a running watch asks again.
     void dropStatusUnderWay();
+    /// A refresh is under way, so that what the catalogue says is about to change.
+    bool isUpdating() const { return m_watching || isRefreshPending(); }
+    bool isFetchingNodes() const;
     /// A catalogue was held once, even an empty one.
     bool isHeld() const { return m_held; }
 
@@ -47,6 +50,14 @@ public:
     void handleStatus(const RuntimeInfo &info, const QString &error);
     void handleNodes(quint64 requestId, const NodesInfo &nodes, const QString &error);
     void handleNodeGroups(const NodeGroupsInfo &groups, const QString &error);
+
+Q_SIGNALS:
+    /// The groups were answered, well or not.
+    void groupsAnswered();
+    /// An update that the user asked for failed; the text is for them.
+    void failed(const QString &message);
+    /// A refresh was sent, or the last one was answered.
+    void refreshingChanged(bool refreshing);
 
 private:
     void finishWatch(bool refreshed);

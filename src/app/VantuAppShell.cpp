@@ -5,8 +5,10 @@
 #include "CatalogController.h"
 #include "ControlWorker.h"
 #include "ControlWorkerPool.h"
+#include "FavoriteController.h"
 #include "GuiPreferences.h"
 #include "LanguageController.h"
+#include "NodePingPoll.h"
 #include "NoticeSink.h"
 #include "ProtectionController.h"
 #include "RecentActivityStore.h"
@@ -57,6 +59,9 @@ void VantuAppShell::makeConcerns()
     m_connection = std::make_unique<ConnectController>(ConnectController::Parts{
         m_link, *m_state, *m_notices, *m_compatibility, *m_updates, operationAllowed});
     m_catalog = std::make_unique<CatalogController>(m_link, *m_state, *m_notices, *m_compatibility);
+    m_favorites = std::make_unique<FavoriteController>(m_link, *m_state, *m_notices,
+                                                       *m_compatibility, *m_catalog);
+    m_pings = std::make_unique<NodePingPoll>(*m_state, *m_catalog);
     m_protection = std::make_unique<ProtectionController>(ProtectionController::Parts{
         m_link, *m_state, *m_notices, *m_compatibility, operationAllowed});
     m_account = std::make_unique<AccountController>(
@@ -90,6 +95,8 @@ void VantuAppShell::connectWorkers()
         connect(worker, &Worker::logoutFinished, this, &Shell::handleWindowLogoutFinished);
         connect(worker, &Worker::modeFinished, this, &Shell::handleWindowModeFinished);
     }
+    // Last, so that the store holds the answer already.
+    connect(&m_link.worker(WorkerLane::Reads), &Worker::nodesFinished, this, &Shell::noteNodes);
 }
 
 void VantuAppShell::connectTray()
@@ -101,7 +108,7 @@ void VantuAppShell::connectTray()
     connect(tray, &Tray::openVantuRequested, windows, &WindowController::showOrRaise);
     connect(tray, &Tray::openLocationsRequested, windows, &WindowController::showLocations);
     connect(tray, &Tray::accountRequested, windows, &WindowController::showAccount);
-    connect(tray, &Tray::openKillSwitchSettingsRequested, windows, &WindowController::showOrRaise);
+    connect(tray, &Tray::openKillSwitchSettingsRequested, windows, &WindowController::showSettings);
     connect(tray, &Tray::logoutRequested, this, &Shell::logoutAccountFromTray);
     connect(tray, &Tray::connectRuntimeRequested, this, &Shell::connectRuntimeFromTray);
     connect(tray, &Tray::cancelConnectRequested, this, &Shell::cancelConnectFromTray);
@@ -138,6 +145,8 @@ void VantuAppShell::connectWindows()
     connect(windows, &Windows::chooseModeForKillSwitchRequested, this,
             &Shell::chooseModeForKillSwitch);
     connect(windows, &Windows::modePageLeft, this, &Shell::cancelPendingKillSwitchEnable);
+    connect(windows, &Windows::setNodeFavoriteRequested, this, &Shell::setLocationFavorite);
+    connect(windows, &Windows::showingPlacesChanged, m_pings.get(), &NodePingPoll::setWatched);
     connect(windows, &Windows::refreshLocationsRequested, this, &Shell::refreshLocations);
     connect(windows, &Windows::loginRequested, this, &Shell::loginAccount);
     connect(windows, &Windows::logoutRequested, this, &Shell::logoutAccount);
@@ -166,6 +175,13 @@ void VantuAppShell::connectConcerns()
 
     connect(m_connection.get(), &ConnectController::started, this, &Shell::handleConnectStarted);
     connect(m_connection.get(), &ConnectController::ended, this, &Shell::handleConnectEnded);
+
+    connect(m_catalog.get(), &CatalogController::failed, m_windows.get(),
+            &WindowController::showLocationsError);
+    connect(m_catalog.get(), &CatalogController::refreshingChanged, m_windows.get(),
+            &WindowController::setRefreshing);
+    connect(m_favorites.get(), &FavoriteController::unconfirmedChanged, m_windows.get(),
+            &WindowController::setUnconfirmedFavorites);
 
     connect(m_protection.get(), &ProtectionController::busyChanged, this,
             &Shell::publishExternalBusy);
@@ -251,6 +267,17 @@ void VantuAppShell::noteStatus(quint64 requestId, const RuntimeInfo &info,
     m_compatibility->noteStatus(info, errorMessage);
 }
 
+void VantuAppShell::noteNodes(quint64 requestId, const NodesInfo &nodes,
+                              const QString &errorMessage)
+{
+    Q_UNUSED(requestId) // Whoever asked: the list of places is fresh.
+    Q_UNUSED(nodes)
+    if (errorMessage.isEmpty()) {
+        m_windows->clearLocationsError();
+        m_windows->noteCatalogReceived();
+    }
+}
+
 void VantuAppShell::publishAvailability()
 {
     QString reason = m_compatibility->reason();
@@ -259,8 +286,10 @@ void VantuAppShell::publishAvailability()
     } else if (reason.isEmpty()) {
         reason = m_statusError;
     }
-    m_windows->setDaemonAvailable(
-        m_compatibility->isAvailable() && m_statusReceived && m_statusError.isEmpty(), reason);
+    const bool available =
+        m_compatibility->isAvailable() && m_statusReceived && m_statusError.isEmpty();
+    m_windows->setDaemonAvailable(available, reason);
+    m_pings->setDaemonAvailable(available);
 }
 
 void VantuAppShell::publishExternalBusy()

@@ -14,7 +14,9 @@ class AccountController;
 class AppState;
 class CatalogController;
 class ControlWorkerPool;
+class FavoriteController;
 class LanguageController;
+class NodePingPoll;
 class NoticeSink;
 class ProtectionController;
 class RecentActivityStore;
@@ -82,6 +84,7 @@ public Q_SLOTS:
     void connectNode(const QString &nodeID, const QString &label);
     void connectNodeFromTray(const QString &nodeID, const QString &label);
     void connectSmart(const QString &selector);
+    void setLocationFavorite(const QString &nodeID, bool favorite);
     void setSettingsKillSwitchEnabled(bool enabled);
     void setSettingsKillSwitchMode(const QString &mode);
     void switchToAutoAndEnableKillSwitch();
@@ -91,6 +94,7 @@ public Q_SLOTS:
     void loginAccount(const QString &username, const QString &password, bool rememberMe);
     void logoutAccount();
     void logoutAccountFromTray();
+    void pollWindowNodePing();
     void pollWindowCatalogRefresh();
 
     // One slot for each kind of answer; an answer that nobody awaits is dropped.
@@ -136,6 +140,7 @@ private:
     void connectConcerns();
 
     void noteStatus(quint64 requestId, const RuntimeInfo &info, const QString &errorMessage);
+    void noteNodes(quint64 requestId, const NodesInfo &nodes, const QString &errorMessage);
     void publishAvailability();
     void publishExternalBusy();
     void refetchAll();
@@ -161,6 +166,8 @@ private:
     std::unique_ptr<UpdateController> m_updates;
     std::unique_ptr<ConnectController> m_connection;
     std::unique_ptr<CatalogController> m_catalog;
+    std::unique_ptr<FavoriteController> m_favorites;
+    std::unique_ptr<NodePingPoll> m_pings;
     std::unique_ptr<ProtectionController> m_protection;
     std::unique_ptr<AccountController> m_account;
     std::unique_ptr<LanguageController> m_language;

@@ -3,7 +3,9 @@
 #include "AccountController.h"
 #include "AppState.h"
 #include "CatalogController.h"
+#include "FavoriteController.h"
 #include "LanguageController.h"
+#include "NodePingPoll.h"
 #include "ProtectionController.h"
 #include "ServiceCompatibility.h"
 #include "UpdateController.h"
@@ -91,6 +93,11 @@ void VantuAppShell::connectSmart(const QString &selector)
     m_connection->connectSmart(selector);
 }
 
+void VantuAppShell::setLocationFavorite(const QString &nodeID, bool favorite)
+{
+    m_favorites->setFavorite(nodeID, favorite);
+}
+
 void VantuAppShell::setSettingsKillSwitchEnabled(bool enabled)
 {
     m_protection->setKillSwitchEnabled(enabled);
@@ -136,6 +143,11 @@ void VantuAppShell::logoutAccountFromTray()
     m_account->logout(OperationOrigin::Tray);
 }
 
+void VantuAppShell::pollWindowNodePing()
+{
+    m_pings->poll();
+}
+
 void VantuAppShell::pollWindowCatalogRefresh()
 {
     m_catalog->pollWatch();
@@ -152,7 +164,10 @@ void VantuAppShell::handleWindowStatusFinished(quint64 requestId, const RuntimeI
 void VantuAppShell::handleWindowNodesFinished(quint64 requestId, const NodesInfo &info,
                                               const QString &errorMessage)
 {
-    if (m_link.take(requestId)) {
+    const auto request = m_link.take(requestId);
+    if (request == ControlRequest::SetNodeFavorite) {
+        m_favorites->handleFavorite(info, errorMessage);
+    } else if (request) {
         m_catalog->handleNodes(requestId, info, errorMessage);
     }
 }

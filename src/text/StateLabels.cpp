@@ -18,11 +18,6 @@ using namespace Qt::StringLiterals;
 [[maybe_unused]] static constexpr std::array kCallerTexts{
     QT_TRANSLATE_NOOP("TrayMenuText", "Unavailable"),
     QT_TRANSLATE_NOOP("TrayMenuText", "Days left: %1"),
-    QT_TRANSLATE_NOOP("VPNPage", "Unavailable"),
-    QT_TRANSLATE_NOOP("VPNPage", "Lockdown"),
-    QT_TRANSLATE_NOOP("VPNPage", "Lockdown unavailable"),
-    QT_TRANSLATE_NOOP("VPNPage", "On"),
-    QT_TRANSLATE_NOOP("VPNPage", "Off"),
     QT_TRANSLATE_NOOP("SettingsPage", "Unavailable"),
     QT_TRANSLATE_NOOP("SettingsPage", "Lockdown"),
     QT_TRANSLATE_NOOP("SettingsPage", "Lockdown unavailable"),

@@ -1,39 +1,39 @@
 #include "MainWindow.h"
 
 #include "AppState.h"
+#include "ConnectProgress.h"
+#include "ElidedLabel.h"
+#include "GuiPreferences.h"
+#include "HandOnTheme.h"
+#include "LocationsPage.h"
 #include "MemoryLog.h"
-#include "NodeMenuModel.h"
-#include "PlainText.h"
+#include "NotificationHost.h"
+#include "PlaceholderPage.h"
 #include "RuntimeFacts.h"
-#include "StyleProperty.h"
+#include "StateLabels.h"
 #include "TextStyle.h"
+#include "Theme.h"
+#include "TrayMenuText.h"
+#include "VpnPage.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QKeySequence>
-#include <QLabel>
-#include <QPushButton>
-#include <QTimer>
+#include <QShortcut>
+#include <QShowEvent>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include <chrono>
-
-using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr QSize kMinimumSize{780, 620};
-constexpr int kDotSize = 12;
-constexpr int kPrimaryHeight = 48;
-constexpr int kCardMargin = 24;
-constexpr int kCardWidth = 880;
-/// How often "connected for" is counted on while the window is looked at.
-constexpr auto kDurationInterval = 15s;
+constexpr QMargins kContentMargins{32, 28, 32, 28};
+constexpr int kContentSpacing = 16;
 
 QString noticeKindName(MainWindow::NoticeKind kind)
 {
@@ -52,33 +52,25 @@ QString noticeKindName(MainWindow::NoticeKind kind)
 
 } // namespace
 
-MainWindow::MainWindow(AppState &state, QWidget *parent)
+MainWindow::MainWindow(AppState &state, GuiPreferences &preferences, Theme &theme, QWidget *parent)
     : QMainWindow(parent)
     , m_state(state)
-    , m_noticeTimer(new QTimer(this))
-    , m_durationTimer(new QTimer(this))
+    , m_preferences(preferences)
+    , m_theme(theme)
+    , m_recent(preferences)
 {
-    setAttribute(Qt::WA_DeleteOnClose, false);
     setWindowTitle(tr("Vantu"));
     setMinimumSize(kMinimumSize);
-
-    auto *closeAction = new QAction(this);
-    closeAction->setObjectName(u"VantuCloseWindowAction"_s);
-    closeAction->setShortcut(QKeySequence::Close);
-    closeAction->setShortcutContext(Qt::WindowShortcut);
-    connect(closeAction, &QAction::triggered, this, &QWidget::close);
-    addAction(closeAction);
-
+    addActions();
     buildContent();
+    connectVpnPage();
+    connectLocationsPage();
 
-    m_noticeTimer->setSingleShot(true);
-    connect(m_noticeTimer, &QTimer::timeout, m_notice, &QWidget::hide);
-    m_durationTimer->setInterval(kDurationInterval);
-    connect(m_durationTimer, &QTimer::timeout, this, &MainWindow::renderDetail);
-
+    connect(&m_theme, &Theme::changed, this, &MainWindow::applyTheme);
     connect(&m_state, &AppState::runtimeChanged, this, &MainWindow::refreshFromState);
-    connect(&m_state, &AppState::nodesChanged, this, &MainWindow::refreshFromState);
+    applyTheme();
     refreshFromState();
+    showPage(static_cast<int>(Page::Vpn));
 }
 
 MainWindow::~MainWindow()
@@ -86,148 +78,250 @@ MainWindow::~MainWindow()
     memorylog::log(u"MainWindow destroyed"_s);
 }
 
+void MainWindow::addActions()
+{
+    auto *closeAction = new QAction(this);
+    closeAction->setObjectName(u"VantuCloseWindowAction"_s);
+    closeAction->setShortcut(QKeySequence::Close);
+    closeAction->setShortcutContext(Qt::WindowShortcut);
+    connect(closeAction, &QAction::triggered, this, &QWidget::close);
+    addAction(closeAction);
+
+    for (int index = 0; index < kPageCount; ++index) {
+        auto *shortcut =
+            new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)), this);
+        connect(shortcut, &QShortcut::activated, this, [this, index] { showPage(index); });
+    }
+    auto *search = new QShortcut(QKeySequence::Find, this);
+    connect(search, &QShortcut::activated, this, &MainWindow::focusSearch);
+}
+
 void MainWindow::buildContent()
 {
     auto *root = new QWidget(this);
     root->setObjectName(u"VantuWindowRoot"_s);
     setCentralWidget(root);
-    auto *column = new QVBoxLayout(root);
-    column->setContentsMargins(32, 28, 32, 28);
-    column->setSpacing(16);
+    auto *row = new QHBoxLayout(root);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
 
-    m_notice = new QLabel(root);
-    m_notice->setObjectName(u"VantuNotificationMessage"_s);
-    m_notice->setTextFormat(Qt::PlainText);
-    m_notice->setWordWrap(true);
-    m_notice->setMaximumWidth(kCardWidth);
-    m_notice->hide();
+    m_sidebar = new NavigationSidebar(root);
+    connect(m_sidebar, &NavigationSidebar::pageRequested, this, &MainWindow::showPage);
+    auto *divider = new QFrame(root);
+    divider->setObjectName(u"VantuSidebarDivider"_s);
+    divider->setFixedWidth(1);
 
-    auto *card = new QFrame(root);
-    card->setObjectName(u"VantuStatusCard"_s);
-    card->setMaximumWidth(kCardWidth);
-    auto *cardLayout = new QVBoxLayout(card);
-    cardLayout->setContentsMargins(kCardMargin, kCardMargin, kCardMargin, kCardMargin);
-    cardLayout->setSpacing(8);
+    auto *content = new QWidget(root);
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins(kContentMargins);
+    column->setSpacing(kContentSpacing);
+    m_title = new ElidedLabel(content);
+    m_title->setObjectName(u"VantuCurrentPageTitle"_s);
+    setTextStyle(*m_title, TextStyle::PageTitle);
+    m_stack = new QStackedWidget(content);
+    column->addWidget(m_title);
+    column->addWidget(m_stack, 1);
+    buildPages();
+    m_notices = new NotificationHost(*content, m_title);
 
-    auto *titleRow = new QHBoxLayout;
-    titleRow->setSpacing(8);
-    m_statusDot = new QLabel(card);
-    m_statusDot->setObjectName(u"VantuVPNStatusDot"_s);
-    m_statusDot->setFixedSize(kDotSize, kDotSize);
-    m_statusTitle = new QLabel(card);
-    m_statusTitle->setObjectName(u"VantuStatusTitle"_s);
-    m_statusTitle->setTextFormat(Qt::PlainText);
-    setTextStyle(*m_statusTitle, TextStyle::StatusTitle);
-    titleRow->addWidget(m_statusDot);
-    titleRow->addWidget(m_statusTitle, 1);
+    row->addWidget(m_sidebar);
+    row->addWidget(divider);
+    row->addWidget(content, 1);
+}
 
-    m_statusDetail = new QLabel(card);
-    m_statusDetail->setObjectName(u"VantuVPNStatusDetail"_s);
-    m_statusDetail->setTextFormat(Qt::PlainText);
-    m_statusDetail->setWordWrap(true);
+void MainWindow::buildPages()
+{
+    const QString later = tr("This page is still being built.");
+    m_vpn = new VpnPage(m_state, m_recent, m_stack);
+    m_locations = new LocationsPage(m_state, m_stack);
+    m_account = new PlaceholderPage(u"VantuAccountPage"_s, later, m_stack);
+    m_stack->addWidget(m_vpn);
+    m_stack->addWidget(m_locations);
+    m_stack->addWidget(new PlaceholderPage(u"VantuModePage"_s, later, m_stack));
+    m_stack->addWidget(new PlaceholderPage(u"VantuSettingsPage"_s, later, m_stack));
+    m_stack->addWidget(m_account);
+}
 
-    m_primary = new QPushButton(card);
-    m_primary->setObjectName(u"VantuVPNPrimaryAction"_s);
-    m_primary->setMinimumHeight(kPrimaryHeight);
-    connect(m_primary, &QPushButton::clicked, this, &MainWindow::activatePrimaryAction);
+void MainWindow::connectVpnPage()
+{
+    connect(m_vpn, &VpnPage::connectRuntimeRequested, this, [this] {
+        if (connectAllowed()) {
+            Q_EMIT connectRuntimeRequested();
+        }
+    });
+    connect(m_vpn, &VpnPage::signInRequested, this, &MainWindow::connectAllowed);
+    connect(m_vpn, &VpnPage::cancelConnectRequested, this, &MainWindow::cancelConnectRequested);
+    connect(m_vpn, &VpnPage::disconnectRuntimeRequested, this,
+            &MainWindow::disconnectRuntimeRequested);
+    connect(m_vpn, &VpnPage::connectNodeRequested, this, &MainWindow::connectNode);
+    connect(m_vpn, &VpnPage::connectSmartRequested, this, &MainWindow::connectSmart);
+    connect(m_vpn, &VpnPage::setNodeFavoriteRequested, this, &MainWindow::setNodeFavoriteRequested);
+    connect(m_vpn, &VpnPage::pageRequested, this, &MainWindow::showPage);
+    connect(m_vpn, &VpnPage::browseLocationsRequested, this, &MainWindow::browseLocations);
+    connect(m_vpn, &VpnPage::recentConnectionsCleared, this, &MainWindow::recentConnectionsCleared);
+    connect(m_vpn, &VpnPage::quickEntryVisibleChanged, this, &MainWindow::publishShowingPlaces);
+}
 
-    cardLayout->addLayout(titleRow);
-    cardLayout->addWidget(m_statusDetail);
-    cardLayout->addSpacing(16);
-    cardLayout->addWidget(m_primary);
+void MainWindow::connectLocationsPage()
+{
+    connect(m_locations, &LocationsPage::refreshRequested, this,
+            &MainWindow::refreshLocationsRequested);
+    connect(m_locations, &LocationsPage::connectNodeRequested, this, &MainWindow::connectNode);
+    connect(m_locations, &LocationsPage::connectSmartRequested, this, &MainWindow::connectSmart);
+    connect(m_locations, &LocationsPage::favoriteNodeRequested, this,
+            &MainWindow::setNodeFavoriteRequested);
+}
 
-    column->addWidget(m_notice);
-    column->addWidget(card);
-    column->addStretch(1);
+void MainWindow::applyTheme()
+{
+    m_theme.applyTo(*this);
+    handOnTheme(*this, m_theme.palette());
+    m_sidebar->applyThemePalette(m_theme.palette());
+    m_vpn->applyThemePalette(m_theme.palette());
+    m_locations->applyThemePalette(m_theme.palette());
+}
+
+void MainWindow::setAppearancePreference(const QString &appearance)
+{
+    const QString before = m_preferences.appearance();
+    m_preferences.setAppearance(appearance);
+    const QString now = m_preferences.appearance();
+    m_theme.setAppearance(now);
+    applyTheme();
+    if (now != before) {
+        Q_EMIT appearancePreferenceChanged(now);
+    }
+}
+
+Page MainWindow::currentPage() const
+{
+    return static_cast<Page>(m_stack->currentIndex());
+}
+
+void MainWindow::showPage(int index)
+{
+    if (index < 0 || index >= kPageCount) {
+        return;
+    }
+    const Page page = static_cast<Page>(index);
+    if (currentPage() == Page::Mode && page != Page::Mode) {
+        Q_EMIT modePageLeft();
+    }
+    m_vpn->closeQuickEntry();
+    m_stack->setCurrentIndex(index);
+    m_sidebar->setCurrentPage(page);
+    m_title->setText(NavigationSidebar::pageName(page));
+    if (page != Page::Account) {
+        m_account->setMessage({});
+    }
+    publishShowingPlaces();
+}
+
+void MainWindow::focusSearch()
+{
+    if (currentPage() == Page::Locations) {
+        m_locations->focusSearch();
+    } else {
+        showPage(static_cast<int>(Page::Vpn));
+        m_vpn->focusSearch();
+    }
+}
+
+void MainWindow::browseLocations(const QString &query)
+{
+    showPage(static_cast<int>(Page::Locations));
+    m_locations->setSearchText(query);
+}
+
+bool MainWindow::connectAllowed()
+{
+    if (facts::isSignedIn(m_state.runtime())) {
+        return true;
+    }
+    showPage(static_cast<int>(Page::Account));
+    m_account->setMessage(QCoreApplication::translate("AccountPage", "Sign in to connect."));
+    return false;
+}
+
+void MainWindow::connectNode(const QString &nodeID, const QString &label)
+{
+    if (connectAllowed()) {
+        setPendingTarget({PendingConnectTarget::Kind::Node, nodeID, label, {}});
+        Q_EMIT connectNodeRequested(nodeID, label);
+    }
+}
+
+void MainWindow::connectSmart(const QString &selector, const QString &label)
+{
+    if (connectAllowed()) {
+        setPendingTarget({PendingConnectTarget::Kind::Smart, selector, label, {}});
+        Q_EMIT connectSmartRequested(selector);
+    }
+}
+
+void MainWindow::setPendingTarget(const PendingConnectTarget &target)
+{
+    m_vpn->setPendingConnectTarget(target);
+    Q_EMIT pendingConnectTargetChanged(target.label);
 }
 
 void MainWindow::setDaemonAvailable(bool available, const QString &reason)
 {
-    m_daemonAvailable = available;
-    m_unavailableReason = reason;
-    refreshFromState();
+    m_vpn->setDaemonAvailable(available, reason);
+    m_locations->setDaemonAvailable(available, reason);
 }
 
 void MainWindow::setConnectProgress(const ConnectProgress &progress)
 {
-    m_progress = progress;
-    refreshFromState();
+    m_vpn->setConnectProgress(progress);
+}
+
+void MainWindow::setUnconfirmedFavorites(const QHash<QString, bool> &favorites)
+{
+    m_locations->setUnconfirmedFavorites(favorites);
+}
+
+void MainWindow::noteCatalogReceived()
+{
+    m_locations->applyCatalog();
+}
+
+void MainWindow::setRefreshing(bool refreshing)
+{
+    m_locations->setRefreshing(refreshing);
+}
+
+void MainWindow::showLocationsError(const QString &message)
+{
+    m_locations->showOperationError(message);
+}
+
+void MainWindow::clearLocationsError()
+{
+    m_locations->clearMessage();
 }
 
 void MainWindow::refreshFromState()
 {
-    const PrimaryAction action = primaryAction(m_state.runtime(), m_daemonAvailable, m_progress);
-    m_intent = action.intent;
-    m_statusTitle->setText(action.title);
-    m_primary->setText(action.button);
-    m_primary->setEnabled(action.enabled);
-    setStyleProperty(*m_statusDot, "vantuStatusState", action.statusState);
-    setStyleProperty(*m_primary, "vantuPrimaryRole", action.role);
-    setStyleProperty(*m_primary, "vantuPrimaryState", action.pending ? u"pending"_s : u"idle"_s);
-    renderDetail();
-}
-
-void MainWindow::renderDetail()
-{
-    const RuntimeInfo &runtime = m_state.runtime();
-    const bool connected = m_daemonAvailable && facts::isConnected(runtime);
-    QString detail;
-    if (!m_daemonAvailable) {
-        detail = m_unavailableReason;
-    } else if (connected) {
-        detail =
-            NodeMenuModel::locationLine(runtime, m_state.nodes(), QDateTime::currentDateTimeUtc());
-    } else if (m_progress.pending) {
-        detail = m_progress.label;
-    } else {
-        detail = runtime.lastError;
-    }
-    m_statusDetail->setText(plaintext::singleLine(detail));
-
-    // Counting on only while somebody can see it keeps an idle program asleep.
-    if (connected && isVisible()) {
-        if (!m_durationTimer->isActive()) {
-            m_durationTimer->start();
-        }
-    } else {
-        m_durationTimer->stop();
-    }
-}
-
-void MainWindow::activatePrimaryAction()
-{
-    switch (m_intent) {
-    case PrimaryAction::Intent::Connect:
-        Q_EMIT connectRuntimeRequested();
-        break;
-    case PrimaryAction::Intent::Disconnect:
-        Q_EMIT disconnectRuntimeRequested();
-        break;
-    case PrimaryAction::Intent::Cancel:
-        Q_EMIT cancelConnectRequested();
-        break;
-    case PrimaryAction::Intent::SignIn:
-        showNotice(QCoreApplication::translate("AccountPage", "Sign in to connect."),
-                   NoticeKind::Error, 5000);
-        break;
-    }
+    m_sidebar->setModeLine(TrayMenuText::modeLine(labels::mode(m_state.runtime().mode)));
 }
 
 void MainWindow::showNotice(const QString &message, NoticeKind kind, int timeoutMs)
 {
-    const QString text = message.trimmed();
-    m_noticeTimer->stop();
-    m_notice->setVisible(!text.isEmpty());
-    if (text.isEmpty()) {
-        return;
-    }
-    setStyleProperty(*m_notice, "vantuRole", kind == NoticeKind::Error ? u"error"_s : QString());
-    setStyleProperty(*m_notice, "vantuNotificationKind", noticeKindName(kind));
-    m_notice->setText(text);
-    m_notice->setAccessibleName(
-        QCoreApplication::translate("NotificationHost", "Notification: %1").arg(text));
-    if (timeoutMs > 0) {
-        m_noticeTimer->start(timeoutMs);
+    m_notices->showMessage(message, noticeKindName(kind), timeoutMs);
+}
+
+bool MainWindow::isShowingPlaces() const
+{
+    return isVisible() && (currentPage() == Page::Locations || m_vpn->isQuickEntryOpen());
+}
+
+void MainWindow::publishShowingPlaces()
+{
+    const bool showing = isShowingPlaces();
+    if (m_showingPlaces != showing) {
+        m_showingPlaces = showing;
+        Q_EMIT showingPlacesChanged(showing);
     }
 }
 
@@ -237,6 +331,10 @@ void MainWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         Q_EMIT quitRequested();
         return;
+    }
+    m_vpn->closeQuickEntry();
+    if (currentPage() == Page::Mode) {
+        Q_EMIT modePageLeft();
     }
     Q_EMIT hiddenToTray();
     if (m_exitAllowed) {
@@ -251,13 +349,20 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
-    renderDetail();
-    Q_EMIT visibilityChanged(true);
+    // Return connects in a window that was just opened, but never disconnects: it may
+    // have come up under the fingers of somebody who types elsewhere.
+    if (!event->spontaneous() && currentPage() == Page::Vpn) {
+        if (facts::isConnected(m_state.runtime())) {
+            m_sidebar->setFocus();
+        } else {
+            m_vpn->setFocus();
+        }
+    }
+    publishShowingPlaces();
 }
 
 void MainWindow::hideEvent(QHideEvent *event)
 {
     QMainWindow::hideEvent(event);
-    m_durationTimer->stop();
-    Q_EMIT visibilityChanged(false);
+    publishShowingPlaces();
 }

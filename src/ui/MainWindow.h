@@ -1,21 +1,32 @@
 #pragma once
 
 #include "ConnectProgress.h"
-#include "PrimaryAction.h"
+#include "ModeRecords.h"
+#include "NavigationSidebar.h"
+#include "PendingConnectTarget.h"
+#include "RecentActivityStore.h"
 
+#include <QHash>
 #include <QMainWindow>
+#include <QUrl>
 
 class AppState;
+class GuiPreferences;
+class ElidedLabel;
+class LocationsPage;
+class NotificationHost;
+class PlaceholderPage;
 class QCloseEvent;
-class QLabel;
-class QPushButton;
-class QTimer;
+class QStackedWidget;
+class Theme;
+class VpnPage;
 
-/// The program's window: the connection's state, its place, and the one button.
+/// The program's window: the sidebar and the five pages.
 ///
-/// Owned by WindowController, on the GUI thread. It reads the store and reports
-/// what the user wants by signals; it never talks to the daemon. Closing it hides
-/// it, unless hiding to the tray is switched off or the program is leaving.
+/// Owned by WindowController, on the GUI thread. Its pages read the store and report
+/// what the user wants by signals, which the window repeats; neither ever talks to the
+/// daemon. Closing the window hides it, unless hiding to the tray is switched off or
+/// the program is leaving.
 class MainWindow final : public QMainWindow
 {
     Q_OBJECT
@@ -25,8 +36,9 @@ public:
     /// How a notice looks.
     enum class NoticeKind { Info, Success, Warning, Error };
 
-    /// `state` must outlive the window.
-    explicit MainWindow(AppState &state, QWidget *parent = nullptr);
+    /// All arguments must outlive the window.
+    MainWindow(AppState &state, GuiPreferences &preferences, Theme &theme,
+               QWidget *parent = nullptr);
     ~MainWindow() override;
 
     /// Off: closing the window asks to leave the program, because without a tray
@@ -38,22 +50,76 @@ public:
     /// Whether the daemon answers; `reason` tells the user why not.
     void setDaemonAvailable(bool available, const QString &reason);
     void setConnectProgress(const ConnectProgress &progress);
+    /// Favourites that the daemon has not confirmed yet, by node id.
+    void setUnconfirmedFavorites(const QHash<QString, bool> &favorites);
+    /// A catalogue was received, even if there is nothing in it.
+    void noteCatalogReceived();
+    /// A refresh of the catalogue was asked for and is not yet answered.
+    void setRefreshing(bool refreshing);
 
-    /// Shows a notice for `timeoutMs`; 0 leaves it until the next one or until it
-    /// is dismissed. An empty message hides what stands there.
+    /// Shows a notice for `timeoutMs`; 0 leaves it until it is dismissed. An empty
+    /// message hides what stands there.
     void showNotice(const QString &message, NoticeKind kind, int timeoutMs);
+    /// A failed operation concerning the list of places: told on their page, too.
+    void showLocationsError(const QString &message);
+    void clearLocationsError();
+
+    /// "light", "dark" or anything else for the desktop's own; kept in the preferences.
+    void setAppearancePreference(const QString &appearance);
+
+    /// A list of places is on the screen.
+    bool isShowingPlaces() const;
+    Page currentPage() const;
 
 Q_SIGNALS:
     void hiddenToTray();
     void connectRuntimeRequested();
     void cancelConnectRequested();
     void disconnectRuntimeRequested();
+    void setModeRequested(const ModeInfo &mode);
+    void splitRulesRequested();
+    void importSplitRulesRequested(const QString &kind, const QString &content);
+    void setLocalNetworkRequested(const QString &value);
+    void refreshLocationsRequested();
+    void connectNodeRequested(const QString &nodeID, const QString &label);
+    void recentConnectionsCleared();
+    void connectSmartRequested(const QString &selector);
+    void pendingConnectTargetChanged(const QString &label);
+    void setNodeFavoriteRequested(const QString &nodeID, bool favorite);
+    void openLogsRequested();
+    void openExternalURLRequested(const QUrl &url);
+    void settingsVisibleRequested();
+    void setKillSwitchEnabledRequested(bool enabled);
+    void setKillSwitchModeRequested(const QString &mode);
+    void switchToAutoAndEnableKillSwitchRequested();
+    void chooseModeForKillSwitchRequested();
+    void modePageLeft();
+    void setSystemProxyRequested(const QString &value);
+    void setAPIURLRequested(const QString &apiURL);
+    void resetAPIURLRequested();
+    void setAutoConnectRequested(const QString &value);
+    void setLanguageRequested(const QString &source, const QString &language);
+    void checkUpdateRequested();
+    void setProxyListenersRequested(const QString &socksAddress, const QString &httpAddress);
+    void setSplitDNSLocalRequested(const QStringList &servers);
+    void setSplitDNSPolicyRequested(const QString &policy);
+    void clearSplitDNSLocalRequested();
+    void resetSplitDNSRequested();
+    void repairDiagnosticsRequested();
+    void loginRequested(const QString &username, const QString &password, bool rememberMe);
+    void logoutRequested();
+    void purchaseURLRequested(const QString &lang);
+    void appearancePreferenceChanged(const QString &appearance);
+
     /// Close was asked for while hiding to the tray is off.
     void quitRequested();
-    void visibilityChanged(bool visible);
+    /// isShowingPlaces() has another value.
+    void showingPlacesChanged(bool showing);
 
 public Q_SLOTS:
     void refreshFromState();
+    /// Selects a page by its number; numbers that no page has are ignored.
+    void showPage(int index);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -61,23 +127,33 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    void addActions();
     void buildContent();
-    void activatePrimaryAction();
-    void renderDetail();
+    void buildPages();
+    void connectVpnPage();
+    void connectLocationsPage();
+    void applyTheme();
+    bool connectAllowed();
+    void connectNode(const QString &nodeID, const QString &label);
+    void connectSmart(const QString &selector, const QString &label);
+    void setPendingTarget(const PendingConnectTarget &target);
+    void focusSearch();
+    void browseLocations(const QString &query);
+    void publishShowingPlaces();
 
     AppState &m_state;
+    GuiPreferences &m_preferences;
+    Theme &m_theme;
+    RecentActivityStore m_recent;
     bool m_hideToTray = true;
     bool m_exitAllowed = false;
-    bool m_daemonAvailable = false;
-    QString m_unavailableReason;
-    ConnectProgress m_progress;
-    PrimaryAction::Intent m_intent = PrimaryAction::Intent::Connect;
+    bool m_showingPlaces = false;
 
-    QLabel *m_statusTitle = nullptr;
-    QLabel *m_statusDetail = nullptr;
-    QLabel *m_statusDot = nullptr;
-    QLabel *m_notice = nullptr;
-    QPushButton *m_primary = nullptr;
-    QTimer *m_noticeTimer = nullptr;
-    QTimer *m_durationTimer = nullptr;
+    NavigationSidebar *m_sidebar = nullptr;
+    ElidedLabel *m_title = nullptr;
+    QStackedWidget *m_stack = nullptr;
+    VpnPage *m_vpn = nullptr;
+    LocationsPage *m_locations = nullptr;
+    PlaceholderPage *m_account = nullptr;
+    NotificationHost *m_notices = nullptr;
 };

@@ -57,6 +57,7 @@ NavigationSidebar::NavigationSidebar(QWidget *parent)
         column->addWidget(card);
     }
     column->addStretch(1);
+    setFocusProxy(m_cards.front());
     setCurrentPage(Page::Vpn);
 }
 

@@ -4,7 +4,7 @@
 
 #include <array>
 
-class ThemePalette;
+struct ThemePalette;
 class VantuNavCard;
 
 /// The pages by their fixed numbers, which other code addresses them by.

@@ -58,30 +58,67 @@ void WindowController::ensureWindow()
     if (m_window) {
         return;
     }
-    m_window = new MainWindow(m_state); // Owned here: a window has no parent.
+    m_window = new MainWindow(m_state, m_preferences, m_theme.get()); // Owned: no parent.
     ++m_windowsCreated;
     m_window->setHideToTray(m_hideToTray);
     setExitAllowed(m_exitAllowed);
     m_window->setDaemonAvailable(m_daemonAvailable, m_unavailableReason);
     m_window->setConnectProgress(m_progress);
-    applyTheme();
-    connect(&m_theme.get(), &Theme::changed, m_window, [this] { applyTheme(); });
+    m_window->setUnconfirmedFavorites(m_unconfirmedFavorites);
+    if (m_catalogReceived) {
+        m_window->noteCatalogReceived();
+    }
     connectWindow();
 }
 
 void WindowController::connectWindow()
 {
-    MainWindow *window = m_window;
-    connect(window, &MainWindow::hiddenToTray, this, &WindowController::handleHiddenToTray);
-    connect(window, &MainWindow::connectRuntimeRequested, this,
-            &WindowController::connectRuntimeRequested);
-    connect(window, &MainWindow::cancelConnectRequested, this,
-            &WindowController::cancelConnectRequested);
-    connect(window, &MainWindow::disconnectRuntimeRequested, this,
-            &WindowController::disconnectRuntimeRequested);
-    connect(window, &MainWindow::quitRequested, this, &WindowController::quitRequested);
-    connect(window, &MainWindow::visibilityChanged, this,
-            &WindowController::windowVisibilityChanged);
+    using Window = MainWindow;
+    using Controller = WindowController;
+    Window *window = m_window;
+    const auto repeat = [this, window](auto signal, auto own) {
+        connect(window, signal, this, own);
+    };
+    connect(window, &Window::hiddenToTray, this, &Controller::handleHiddenToTray);
+    connect(window, &Window::openExternalURLRequested, this, &Controller::openLink);
+    repeat(&Window::connectRuntimeRequested, &Controller::connectRuntimeRequested);
+    repeat(&Window::cancelConnectRequested, &Controller::cancelConnectRequested);
+    repeat(&Window::disconnectRuntimeRequested, &Controller::disconnectRuntimeRequested);
+    repeat(&Window::setModeRequested, &Controller::setModeRequested);
+    repeat(&Window::splitRulesRequested, &Controller::splitRulesRequested);
+    repeat(&Window::importSplitRulesRequested, &Controller::importSplitRulesRequested);
+    repeat(&Window::setLocalNetworkRequested, &Controller::setLocalNetworkRequested);
+    repeat(&Window::refreshLocationsRequested, &Controller::refreshLocationsRequested);
+    repeat(&Window::connectNodeRequested, &Controller::connectNodeRequested);
+    repeat(&Window::recentConnectionsCleared, &Controller::recentConnectionsCleared);
+    repeat(&Window::connectSmartRequested, &Controller::connectSmartRequested);
+    repeat(&Window::setNodeFavoriteRequested, &Controller::setNodeFavoriteRequested);
+    repeat(&Window::openLogsRequested, &Controller::openLogsRequested);
+    repeat(&Window::settingsVisibleRequested, &Controller::settingsVisibleRequested);
+    repeat(&Window::setKillSwitchEnabledRequested, &Controller::setKillSwitchEnabledRequested);
+    repeat(&Window::setKillSwitchModeRequested, &Controller::setKillSwitchModeRequested);
+    repeat(&Window::switchToAutoAndEnableKillSwitchRequested,
+           &Controller::switchToAutoAndEnableKillSwitchRequested);
+    repeat(&Window::chooseModeForKillSwitchRequested,
+           &Controller::chooseModeForKillSwitchRequested);
+    repeat(&Window::modePageLeft, &Controller::modePageLeft);
+    repeat(&Window::setSystemProxyRequested, &Controller::setSystemProxyRequested);
+    repeat(&Window::setAPIURLRequested, &Controller::setAPIURLRequested);
+    repeat(&Window::resetAPIURLRequested, &Controller::resetAPIURLRequested);
+    repeat(&Window::setAutoConnectRequested, &Controller::setAutoConnectRequested);
+    repeat(&Window::setLanguageRequested, &Controller::setLanguageRequested);
+    repeat(&Window::checkUpdateRequested, &Controller::checkUpdateRequested);
+    repeat(&Window::setProxyListenersRequested, &Controller::setProxyListenersRequested);
+    repeat(&Window::setSplitDNSLocalRequested, &Controller::setSplitDNSLocalRequested);
+    repeat(&Window::setSplitDNSPolicyRequested, &Controller::setSplitDNSPolicyRequested);
+    repeat(&Window::clearSplitDNSLocalRequested, &Controller::clearSplitDNSLocalRequested);
+    repeat(&Window::resetSplitDNSRequested, &Controller::resetSplitDNSRequested);
+    repeat(&Window::repairDiagnosticsRequested, &Controller::repairDiagnosticsRequested);
+    repeat(&Window::loginRequested, &Controller::loginRequested);
+    repeat(&Window::logoutRequested, &Controller::logoutRequested);
+    repeat(&Window::purchaseURLRequested, &Controller::purchaseURLRequested);
+    repeat(&Window::quitRequested, &Controller::quitRequested);
+    repeat(&Window::showingPlacesChanged, &Controller::showingPlacesChanged);
 }
 
 void WindowController::handleHiddenToTray()
@@ -92,13 +129,6 @@ void WindowController::handleHiddenToTray()
             memorylog::log(u"MainWindow QPointer cleared on hide-to-tray (created=%1)"_s.arg(
                 m_windowsCreated));
         }
-    }
-}
-
-void WindowController::applyTheme()
-{
-    if (m_window) {
-        m_theme.get().applyTo(*m_window);
     }
 }
 
@@ -178,22 +208,70 @@ void WindowController::showOrRaise()
     m_window->activateWindow();
 }
 
-void WindowController::showAccount()
+void WindowController::showPage(Page page)
 {
     showOrRaise();
+    m_window->showPage(static_cast<int>(page));
+}
+
+void WindowController::showAccount()
+{
+    showPage(Page::Account);
 }
 
 void WindowController::showLocations()
 {
-    showOrRaise();
+    showPage(Page::Locations);
 }
 
 void WindowController::showModePage()
 {
-    showOrRaise();
+    showPage(Page::Mode);
+}
+
+void WindowController::showSettings()
+{
+    showPage(Page::Settings);
 }
 
 void WindowController::activateFromApplication()
 {
     showOrRaise();
+}
+
+void WindowController::setUnconfirmedFavorites(const QHash<QString, bool> &favorites)
+{
+    m_unconfirmedFavorites = favorites;
+    if (m_window) {
+        m_window->setUnconfirmedFavorites(favorites);
+    }
+}
+
+void WindowController::showLocationsError(const QString &message)
+{
+    if (m_window) {
+        m_window->showLocationsError(message);
+    }
+}
+
+void WindowController::clearLocationsError()
+{
+    if (m_window) {
+        m_window->clearLocationsError();
+    }
+}
+
+void WindowController::noteCatalogReceived()
+{
+    m_catalogReceived = true;
+    if (m_window) {
+        m_window->noteCatalogReceived();
+    }
+}
+
+void WindowController::setRefreshing(bool refreshing)
+{
+    if (m_window) {
+        m_window->setRefreshing(refreshing);
+    }
 }

@@ -4,6 +4,7 @@
 #include "ControlRecords.h"
 #include "MainWindow.h"
 
+#include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <QUrl>
@@ -68,6 +69,14 @@ public:
     bool launchFile(const QString &path);
     void openLogDirectory(const ConfigPaths &paths);
 
+    /// Wishes that the daemon has not confirmed; see MainWindow.
+    void setUnconfirmedFavorites(const QHash<QString, bool> &favorites);
+    void showLocationsError(const QString &message);
+    void clearLocationsError();
+    /// A catalogue was received, even if there is nothing in it.
+    void noteCatalogReceived();
+    void setRefreshing(bool refreshing);
+
 Q_SIGNALS:
     void connectRuntimeRequested();
     void cancelConnectRequested();
@@ -109,21 +118,22 @@ Q_SIGNALS:
 
     /// The window was closed while it can't be hidden to a tray.
     void quitRequested();
-    /// The window came to the screen or left it.
-    void windowVisibilityChanged(bool visible);
+    /// Somebody looks at a list of places, or no longer does.
+    void showingPlacesChanged(bool showing);
 
 public Q_SLOTS:
     void showOrRaise();
     void showAccount();
     void showLocations();
     void showModePage();
+    void showSettings();
     void activateFromApplication();
 
 private:
     void ensureWindow();
     void connectWindow();
     void handleHiddenToTray();
-    void applyTheme();
+    void showPage(Page page);
 
     AppState &m_state;
     GuiPreferences &m_preferences;
@@ -134,6 +144,8 @@ private:
     bool m_daemonAvailable = false;
     QString m_unavailableReason;
     ConnectProgress m_progress;
+    QHash<QString, bool> m_unconfirmedFavorites;
+    bool m_catalogReceived = false;
     int m_windowsCreated = 0;
     LinkOpener m_linkOpener;
     FileLauncher m_fileLauncher;

@@ -125,7 +125,8 @@ QString ShellFixture::notice() const
 
 bool ShellFixture::noticeStays() const
 {
-    const auto timers = window()->findChildren<QTimer *>(Qt::FindDirectChildrenOnly);
+    const auto timers =
+        window()->findChild<QWidget *>(u"VantuNotificationHost"_s)->findChildren<QTimer *>();
     return !notice().isEmpty() && std::none_of(timers.begin(), timers.end(), [](QTimer *timer) {
         return timer->isSingleShot() && timer->isActive();
     });

@@ -87,8 +87,10 @@ protected:
         change();
         endFilterChange(QSortFilterProxyModel::Direction::Rows);
 #else
+        // As one change of the layout: told row by row, as invalidateRowsFilter() does,
+        // each run of rows costs a walk over all indexes that the views remember.
         change();
-        invalidateRowsFilter();
+        invalidate();
 #endif
     }
 };

@@ -1,0 +1,36 @@
+#include "PlaceholderPage.h"
+
+#include "StyleProperty.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+PlaceholderPage::PlaceholderPage(const QString &objectName, const QString &sentence,
+                                 QWidget *parent)
+    : QWidget(parent)
+    , m_message(new QLabel(this))
+{
+    setObjectName(objectName);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(8);
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setWordWrap(true);
+    m_message->hide();
+    auto *label = new QLabel(sentence, this);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    setStyleProperty(*label, "vantuRole", u"muted"_s);
+    column->addWidget(m_message);
+    column->addWidget(label);
+    column->addStretch(1);
+}
+
+void PlaceholderPage::setMessage(const QString &message)
+{
+    m_message->setText(message);
+    m_message->setAccessibleName(message);
+    m_message->setVisible(!message.isEmpty());
+}

@@ -1,0 +1,138 @@
+#include "CatalogFilterModel.h"
+
+#include "CatalogTexts.h"
+#include "CatalogTreeModel.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using Kind = CatalogTreeItem::Kind;
+
+CatalogFilterModel::CatalogFilterModel(CatalogTreeModel &source, QObject *parent)
+    : RowFilterProxyModel(parent)
+    , m_source(source)
+{
+    setSourceModel(&source);
+}
+
+void CatalogFilterModel::setSearchText(const QString &text)
+{
+    if (text == m_searchText) {
+        return;
+    }
+    const CatalogSearch search(text);
+    m_searchText = text;
+    if (search != m_search) {
+        changeRowsFilter([this, &search] {
+            m_search = search;
+            m_isMatched = false;
+        });
+    }
+}
+
+bool CatalogFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
+{
+    return isKept(*m_source.item(sourceParent).children[size_t(sourceRow)]);
+}
+
+bool CatalogFilterModel::isKept(const CatalogTreeItem &item) const
+{
+    if (m_search.isEmpty()) {
+        return true;
+    }
+    findMatches();
+    return m_kept[item.ordinal] != 0;
+}
+
+void CatalogFilterModel::findMatches() const
+{
+    if (m_isMatched && m_matchedRevision == m_source.revision()) {
+        return;
+    }
+    const CatalogTreeItem &root = m_source.item({});
+    m_kept.assign(root.end, 0);
+    m_matchedRevision = m_source.revision();
+    m_isMatched = true;
+    visit(root, m_search.allTerms());
+}
+
+// Notes for the row and all below whether they are kept; returns it for the row.
+bool CatalogFilterModel::visit(const CatalogTreeItem &item,
+                               const CatalogSearch::Missing &missing) const
+{
+    const auto rest = m_search.stillMissing(missing, item.searchText);
+    const auto at = m_kept.begin() + std::ptrdiff_t(item.ordinal);
+    if (rest.isEmpty()) {
+        std::fill(at, m_kept.begin() + std::ptrdiff_t(item.end), 1);
+        return true;
+    }
+    bool kept = false;
+    for (const auto &child : item.children) {
+        kept = visit(*child, rest) || kept;
+    }
+    *at = kept ? 1 : 0;
+    return kept;
+}
+
+bool CatalogFilterModel::hasRowsBelow(const QModelIndex &sourceRow) const
+{
+    const auto &rows = m_source.item(sourceRow).children;
+    return std::any_of(rows.begin(), rows.end(), [this](const auto &row) { return isKept(*row); });
+}
+
+QModelIndex CatalogFilterModel::firstNodeBelow(const QModelIndex &sourceRow) const
+{
+    for (const auto &row : m_source.item(sourceRow).children) {
+        if (!isKept(*row)) {
+            continue;
+        }
+        const QModelIndex at = m_source.indexOf(*row);
+        if (row->kind == Kind::Node) {
+            return mapFromSource(at);
+        }
+        const QModelIndex below = firstNodeBelow(at);
+        if (below.isValid()) {
+            return below;
+        }
+    }
+    return {};
+}
+
+QVariant CatalogFilterModel::data(const QModelIndex &index, int role) const
+{
+    if (role != FlagCodeRole && role != PlaceCountRole && role != Qt::AccessibleTextRole) {
+        return RowFilterProxyModel::data(index, role);
+    }
+    const QModelIndex sourceIndex = mapToSource(index);
+    if (!sourceIndex.isValid()) {
+        return {};
+    }
+    const CatalogTreeItem &item = m_source.item(sourceIndex);
+    if (role == FlagCodeRole) {
+        return item.flagCode;
+    }
+    if (role == PlaceCountRole) {
+        return item.kind == Kind::Node ? QVariant() : QVariant(item.placeCount);
+    }
+    return spokenText(item);
+}
+
+// What the row's painting tells, in words; whether it is connected or selected is in
+// its description.
+QString CatalogFilterModel::spokenText(const CatalogTreeItem &item) const
+{
+    QStringList parts{item.text};
+    if (item.kind != Kind::Node) {
+        return item.text;
+    }
+    if (item.parent->kind == Kind::Group) {
+        parts.append(item.parent->text);
+    }
+    if (item.latency >= 0) {
+        parts.append(catalogtexts::latency(item.latency));
+    }
+    if (m_source.data(m_source.indexOf(item), CatalogTreeModel::FavoriteRole).toBool()) {
+        parts.append(catalogtexts::favorite());
+    }
+    return parts.join(u", "_s);
+}

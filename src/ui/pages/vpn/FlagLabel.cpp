@@ -1,0 +1,37 @@
+#include "FlagLabel.h"
+
+#include <QPainter>
+
+FlagLabel::FlagLabel(FlagSize size, QWidget *parent)
+    : QWidget(parent)
+    , m_size(size)
+{
+    setFixedSize(flagExtent(size));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void FlagLabel::setCode(const QString &code)
+{
+    if (code != m_code) {
+        m_code = code;
+        update();
+    }
+}
+
+bool FlagLabel::hasFlag() const
+{
+    return !flagPixmap(m_code, m_size, devicePixelRatioF()).isNull();
+}
+
+void FlagLabel::paintEvent(QPaintEvent *)
+{
+    const QPixmap flag = flagPixmap(m_code, m_size, devicePixelRatioF());
+    if (flag.isNull()) {
+        return;
+    }
+    QPainter painter(this);
+    painter.setOpacity(isEnabled() ? 1.0 : 0.5);
+    painter.drawPixmap(rect(), flag);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+}

@@ -1,0 +1,152 @@
+#include "QuickEntryRow.h"
+
+#include "ElidedLabel.h"
+#include "FlagLabel.h"
+#include "PlainText.h"
+#include "QuickEntryKeys.h"
+#include "QuickEntrySignalBars.h"
+#include "TextStyle.h"
+#include "VpnSummary.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStringList>
+#include <QToolButton>
+
+#include <initializer_list>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kRowHeight = 36;
+constexpr int kSpacing = 8;
+constexpr int kSideMargin = 12;
+constexpr int kStarEdge = 28;
+constexpr int kStarIcon = 16;
+constexpr int kMinimumPingWidth = 42;
+constexpr int kPingPadding = 6;
+constexpr int kWidestPing = 999;
+
+// The words of the quick entry belong to the window's context.
+QString favoriteText()
+{
+    return QCoreApplication::translate("MainWindow", "Favorite");
+}
+
+QString pingText(int milliseconds)
+{
+    return QCoreApplication::translate("MainWindow", "%1 ms").arg(milliseconds);
+}
+
+} // namespace
+
+QuickEntryRow::QuickEntryRow(QWidget *parent)
+    : QPushButton(parent)
+    , m_flag(new FlagLabel(FlagSize::Row, this))
+    , m_text(new ElidedLabel(this))
+    , m_ping(new QLabel(this))
+    , m_bars(new QuickEntrySignalBars(this))
+    , m_star(new QToolButton(this))
+{
+    setObjectName(u"VantuVPNQuickEntryItem"_s);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_flag->setObjectName(u"VantuVPNQuickEntryItemFlag"_s);
+    m_text->setObjectName(u"VantuVPNQuickEntryItemText"_s);
+    m_bars->setObjectName(u"VantuVPNQuickEntryItemSignal"_s);
+    m_ping->setObjectName(u"VantuVPNQuickEntryItemPing"_s);
+    m_ping->setTextFormat(Qt::PlainText);
+    m_ping->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    m_ping->setProperty("vantuRole", u"muted"_s);
+    setTextStyle(*m_ping, TextStyle::Note);
+    m_ping->setFixedWidth(
+        qMax(kMinimumPingWidth,
+             m_ping->fontMetrics().horizontalAdvance(pingText(kWidestPing)) + kPingPadding));
+    for (QWidget *part : std::initializer_list<QWidget *>{m_text, m_ping, m_bars}) {
+        part->setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+    m_star->setObjectName(u"VantuVPNQuickEntryItemFavorite"_s);
+    m_star->setFixedSize(kStarEdge, kStarEdge);
+    m_star->setIconSize({kStarIcon, kStarIcon});
+    m_star->setAutoRaise(true);
+    // Latencies stay in one column, whether a row has a star or not.
+    QSizePolicy starPolicy = m_star->sizePolicy();
+    starPolicy.setRetainSizeWhenHidden(true);
+    m_star->setSizePolicy(starPolicy);
+    m_star->setFocusPolicy(Qt::TabFocus);
+    m_star->setToolTip(u"%1 (%2)"_s.arg(
+        favoriteText(), quickentry::favoriteKey().toString(QKeySequence::NativeText)));
+    m_star->setAccessibleName(favoriteText());
+    connect(m_star, &QToolButton::clicked, this, &QuickEntryRow::toggleFavorite);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(kSideMargin, 0, kSideMargin, 0);
+    layout->setSpacing(kSpacing);
+    layout->addWidget(m_flag);
+    layout->addWidget(m_text, 1);
+    layout->addWidget(m_ping);
+    layout->addWidget(m_bars);
+    layout->addWidget(m_star);
+}
+
+QSize QuickEntryRow::sizeHint() const
+{
+    return {layout()->totalSizeHint().width(),
+            qMax(kRowHeight, m_text->sizeHint().height() + kSpacing)};
+}
+
+QSize QuickEntryRow::minimumSizeHint() const
+{
+    return {layout()->totalMinimumSize().width(), sizeHint().height()};
+}
+
+void QuickEntryRow::setItem(const QuickEntryItem &item)
+{
+    if (item == m_item) {
+        return;
+    }
+    m_item = item;
+    renderItem();
+}
+
+void QuickEntryRow::setLook(const QuickEntryLook &look)
+{
+    m_look = look;
+    m_bars->setColors(look.litBars, look.otherBars);
+    renderItem();
+}
+
+void QuickEntryRow::toggleFavorite()
+{
+    if (m_item.kind == QuickEntryItem::Kind::Node && m_item.available) {
+        Q_EMIT favoriteRequested(m_item.id, !m_item.favorite);
+    }
+}
+
+void QuickEntryRow::renderItem()
+{
+    const bool isNode = m_item.kind == QuickEntryItem::Kind::Node;
+    m_text->setText(isNode ? m_item.label : u"%1 \u00b7 %2"_s.arg(m_item.label, smartSelectText()));
+    m_ping->setText(m_item.pingMs < 0 ? QString() : pingText(m_item.pingMs));
+    m_bars->setLevel(m_item.signalLevel);
+    m_star->setVisible(isNode && m_item.available);
+    m_star->setAccessibleDescription(m_item.label);
+    setEnabled(m_item.available);
+    setAccessibleName(spokenName());
+    m_flag->setCode(m_item.flagCode);
+    m_star->setIcon(m_item.favorite ? m_look.filledStar : m_look.star);
+}
+
+QString QuickEntryRow::spokenName() const
+{
+    QStringList parts{m_text->text()};
+    if (!m_ping->text().isEmpty()) {
+        parts += m_ping->text();
+    }
+    if (m_item.favorite) {
+        parts += favoriteText();
+    }
+    return parts.join(u", "_s);
+}
