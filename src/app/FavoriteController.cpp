@@ -25,13 +25,17 @@ FavoriteController::FavoriteController(RequestLink &link, AppState &state, Notic
 void FavoriteController::setFavorite(const QString &nodeID, bool favorite)
 {
     const QString id = nodeID.trimmed();
-    if (id.isEmpty() || !m_compatibility.changeGuardPasses()) {
+    if (id.isEmpty()) {
+        return;
+    }
+    if (!m_compatibility.changeGuardPasses()) {
+        publish(); // What the list shows already must go back.
         return;
     }
     if (m_catalog.isUpdating()) {
         m_notices.show(ShellText::tr("A locations update is already in progress"),
                        MainWindow::NoticeKind::Info);
-        publish(); // What the list shows already must go back.
+        publish();
         return;
     }
     const auto same = std::find_if(m_wishes.begin(), m_wishes.end(),

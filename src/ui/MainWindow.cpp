@@ -22,6 +22,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QKeySequence>
+#include <QPushButton>
 #include <QShortcut>
 #include <QShowEvent>
 #include <QStackedWidget>
@@ -123,6 +124,8 @@ void MainWindow::buildContent()
     column->addWidget(m_stack, 1);
     buildPages();
     m_notices = new NotificationHost(*content, m_title);
+    m_notices->keepClearOf(*m_vpn->focusProxy());
+    m_notices->keepClearOf(*m_locations->findChild<QPushButton *>(u"VantuLocationsConnect"_s));
 
     row->addWidget(m_sidebar);
     row->addWidget(divider);

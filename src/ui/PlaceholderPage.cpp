@@ -1,8 +1,8 @@
 #include "PlaceholderPage.h"
 
+#include "ElidedLabel.h"
 #include "StyleProperty.h"
 
-#include <QLabel>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -10,18 +10,14 @@ using namespace Qt::StringLiterals;
 PlaceholderPage::PlaceholderPage(const QString &objectName, const QString &sentence,
                                  QWidget *parent)
     : QWidget(parent)
-    , m_message(new QLabel(this))
+    , m_message(new ElidedLabel(this))
 {
     setObjectName(objectName);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(8);
-    m_message->setTextFormat(Qt::PlainText);
-    m_message->setWordWrap(true);
     m_message->hide();
-    auto *label = new QLabel(sentence, this);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
+    auto *label = new ElidedLabel(sentence, this);
     setStyleProperty(*label, "vantuRole", u"muted"_s);
     column->addWidget(m_message);
     column->addWidget(label);

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-class QLabel;
+class ElidedLabel;
 
 /// Stands in for a page that the client does not have yet: one quiet sentence, and
 /// above it room for a message such as why the user was sent here.
@@ -18,5 +18,5 @@ public:
     void setMessage(const QString &message);
 
 private:
-    QLabel *m_message;
+    ElidedLabel *m_message;
 };

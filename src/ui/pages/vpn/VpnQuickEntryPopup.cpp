@@ -1,5 +1,6 @@
 #include "VpnQuickEntryPopup.h"
 
+#include "ElidedLabel.h"
 #include "HandOnTheme.h"
 #include "QuickEntryKeys.h"
 #include "QuickEntryPillRow.h"
@@ -79,7 +80,7 @@ void VpnQuickEntryPopup::buildContent()
     column->setSpacing(0);
     m_resultsTitle =
         addSection(*column, QCoreApplication::translate("MainWindow", "Search results"));
-    m_empty = new QLabel(QCoreApplication::translate("MainWindow", "No matching locations."));
+    m_empty = new ElidedLabel(QCoreApplication::translate("MainWindow", "No matching locations."));
     m_empty->setObjectName(u"VantuVPNQuickEntryEmpty"_s);
     m_empty->setContentsMargins(kSideMargin, kVerticalMargin, kSideMargin, 2 * kVerticalMargin);
     column->addWidget(m_empty);
@@ -114,9 +115,8 @@ void VpnQuickEntryPopup::buildContent()
 
 QLabel *VpnQuickEntryPopup::addSection(QVBoxLayout &column, const QString &title)
 {
-    auto *label = new QLabel(title);
+    auto *label = new ElidedLabel(title);
     label->setObjectName(u"VantuVPNQuickEntrySection"_s);
-    label->setTextFormat(Qt::PlainText);
     label->setProperty("vantuRole", u"muted"_s);
     label->setContentsMargins(kSideMargin, kVerticalMargin, kSideMargin, kVerticalMargin);
     label->setMinimumHeight(kSectionHeight);
