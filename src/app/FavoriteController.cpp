@@ -8,6 +8,7 @@
 #include "ShellText.h"
 
 #include <algorithm>
+#include <iterator>
 
 FavoriteController::FavoriteController(RequestLink &link, AppState &state, NoticeSink &notices,
                                        ServiceCompatibility &compatibility,
@@ -71,7 +72,7 @@ void FavoriteController::handleFavorite(const NodesInfo &nodes, const QString &e
         if (error.isEmpty()) {
             wish->accepted = true;
         } else {
-            m_wishes.erase(wish);
+            m_wishes.removeAt(std::distance(m_wishes.begin(), wish));
         }
     }
     if (error.isEmpty()) {

@@ -76,6 +76,8 @@ MainWindow::MainWindow(AppState &state, GuiPreferences &preferences, Theme &them
 
 MainWindow::~MainWindow()
 {
+    // Its end would be announced to a window that is no longer one.
+    m_vpn->closeQuickEntry();
     memorylog::log(u"MainWindow destroyed"_s);
 }
 
@@ -93,8 +95,6 @@ void MainWindow::addActions()
             new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)), this);
         connect(shortcut, &QShortcut::activated, this, [this, index] { showPage(index); });
     }
-    auto *search = new QShortcut(QKeySequence::Find, this);
-    connect(search, &QShortcut::activated, this, &MainWindow::focusSearch);
 }
 
 void MainWindow::buildContent()
@@ -124,7 +124,7 @@ void MainWindow::buildContent()
     column->addWidget(m_stack, 1);
     buildPages();
     m_notices = new NotificationHost(*content, m_title);
-    m_notices->keepClearOf(*m_vpn->focusProxy());
+    m_notices->keepClearOf(m_vpn->primaryButton());
     m_notices->keepClearOf(*m_locations->findChild<QPushButton *>(u"VantuLocationsConnect"_s));
 
     row->addWidget(m_sidebar);
@@ -143,6 +143,12 @@ void MainWindow::buildPages()
     m_stack->addWidget(new PlaceholderPage(u"VantuModePage"_s, later, m_stack));
     m_stack->addWidget(new PlaceholderPage(u"VantuSettingsPage"_s, later, m_stack));
     m_stack->addWidget(m_account);
+
+    // The list of places answers the same keys itself, and two at once would be none.
+    auto *search = new QShortcut(QKeySequence::Find, this);
+    connect(search, &QShortcut::activated, this, &MainWindow::focusSearch);
+    connect(m_stack, &QStackedWidget::currentChanged, search,
+            [search](int page) { search->setEnabled(page != static_cast<int>(Page::Locations)); });
 }
 
 void MainWindow::connectVpnPage()
@@ -211,8 +217,15 @@ void MainWindow::showPage(int index)
         Q_EMIT modePageLeft();
     }
     m_vpn->closeQuickEntry();
+    // The keyboard must not stay on something that is no longer seen.
+    const bool focusLeaves =
+        page != currentPage() && focusWidget() &&
+        (m_stack->isAncestorOf(focusWidget()) || m_sidebar->isAncestorOf(focusWidget()));
     m_stack->setCurrentIndex(index);
     m_sidebar->setCurrentPage(page);
+    if (focusLeaves) {
+        m_sidebar->focusCurrentPage();
+    }
     m_title->setText(NavigationSidebar::pageName(page));
     if (page != Page::Account) {
         m_account->setMessage({});
@@ -222,12 +235,8 @@ void MainWindow::showPage(int index)
 
 void MainWindow::focusSearch()
 {
-    if (currentPage() == Page::Locations) {
-        m_locations->focusSearch();
-    } else {
-        showPage(static_cast<int>(Page::Vpn));
-        m_vpn->focusSearch();
-    }
+    showPage(static_cast<int>(Page::Vpn));
+    m_vpn->focusSearch();
 }
 
 void MainWindow::browseLocations(const QString &query)
@@ -272,6 +281,22 @@ void MainWindow::setDaemonAvailable(bool available, const QString &reason)
 {
     m_vpn->setDaemonAvailable(available, reason);
     m_locations->setDaemonAvailable(available, reason);
+    offerPrimaryAction();
+}
+
+void MainWindow::offerPrimaryAction()
+{
+    QPushButton &primary = m_vpn->primaryButton();
+    if (!m_offerPrimary || !primary.isEnabled()) {
+        return;
+    }
+    m_offerPrimary = false;
+    // Return connects in a window that was just opened, but never disconnects: it may
+    // have come up under the fingers of somebody who types elsewhere.
+    const bool untouched = focusWidget() && m_sidebar->isAncestorOf(focusWidget());
+    if (untouched && currentPage() == Page::Vpn && !facts::isConnected(m_state.runtime())) {
+        primary.setFocus(Qt::OtherFocusReason);
+    }
 }
 
 void MainWindow::setConnectProgress(const ConnectProgress &progress)
@@ -352,14 +377,10 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
-    // Return connects in a window that was just opened, but never disconnects: it may
-    // have come up under the fingers of somebody who types elsewhere.
     if (!event->spontaneous() && currentPage() == Page::Vpn) {
-        if (facts::isConnected(m_state.runtime())) {
-            m_sidebar->setFocus();
-        } else {
-            m_vpn->setFocus();
-        }
+        m_sidebar->focusCurrentPage();
+        m_offerPrimary = true;
+        offerPrimaryAction();
     }
     publishShowingPlaces();
 }

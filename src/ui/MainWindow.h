@@ -139,6 +139,7 @@ private:
     void setPendingTarget(const PendingConnectTarget &target);
     void focusSearch();
     void browseLocations(const QString &query);
+    void offerPrimaryAction();
     void publishShowingPlaces();
 
     AppState &m_state;
@@ -148,6 +149,8 @@ private:
     bool m_hideToTray = true;
     bool m_exitAllowed = false;
     bool m_showingPlaces = false;
+    /// The window was shown and the keyboard is to go to the main button, once it can.
+    bool m_offerPrimary = false;
 
     NavigationSidebar *m_sidebar = nullptr;
     ElidedLabel *m_title = nullptr;

@@ -57,7 +57,6 @@ NavigationSidebar::NavigationSidebar(QWidget *parent)
         column->addWidget(card);
     }
     column->addStretch(1);
-    setFocusProxy(m_cards.front());
     setCurrentPage(Page::Vpn);
 }
 
@@ -69,6 +68,15 @@ QString NavigationSidebar::pageName(Page page)
 void NavigationSidebar::setCurrentPage(Page page)
 {
     m_cards[static_cast<std::size_t>(page)]->setChecked(true);
+}
+
+void NavigationSidebar::focusCurrentPage()
+{
+    for (VantuNavCard *card : m_cards) {
+        if (card->isChecked()) {
+            card->setFocus(Qt::OtherFocusReason);
+        }
+    }
 }
 
 void NavigationSidebar::setModeLine(const QString &line)

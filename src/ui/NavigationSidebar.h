@@ -24,6 +24,8 @@ public:
 
     /// Marks an entry as chosen, without a signal.
     void setCurrentPage(Page page);
+    /// Puts the keyboard on the chosen entry.
+    void focusCurrentPage();
     /// What the mode entry tells when the pointer rests on it.
     void setModeLine(const QString &line);
     void applyThemePalette(const ThemePalette &palette);

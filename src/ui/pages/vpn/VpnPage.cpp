@@ -66,7 +66,6 @@ void VpnPage::buildContent()
 
     auto *content = new QWidget;
     m_statusCard = new VpnStatusCard(content);
-    setFocusProxy(m_statusCard->primaryButton());
     auto *column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(kSpacing);
@@ -185,6 +184,11 @@ void VpnPage::focusSearch()
     m_search->setFocus(Qt::ShortcutFocusReason);
     m_search->selectAll();
     m_quickEntry->open();
+}
+
+QPushButton &VpnPage::primaryButton() const
+{
+    return *m_statusCard->primaryButton();
 }
 
 bool VpnPage::isQuickEntryOpen() const

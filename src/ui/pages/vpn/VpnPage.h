@@ -8,6 +8,7 @@
 class AppState;
 class CardButton;
 class QGridLayout;
+class QPushButton;
 class RecentActivityStore;
 class SearchField;
 class VpnQuickEntry;
@@ -43,6 +44,8 @@ public:
     /// Puts the focus into the search field, with its text selected, and opens the quick
     /// entry.
     void focusSearch();
+    /// The one button that changes the connection.
+    QPushButton &primaryButton() const;
     bool isQuickEntryOpen() const;
     void closeQuickEntry();
 

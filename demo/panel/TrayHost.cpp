@@ -1,13 +1,12 @@
 #include "TrayHost.h"
 
+#include "TrayWatcher.h"
+
 #include <QCoreApplication>
 #include <QDBusArgument>
-#include <QDBusContext>
 #include <QDBusObjectPath>
-#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QDateTime>
-#include <QMutex>
 #include <QtEndian>
 
 using namespace Qt::StringLiterals;
@@ -15,20 +14,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kCallTimeoutMs = 5000;
-const QString kWatcherService = u"org.kde.StatusNotifierWatcher"_s;
-const QString kWatcherPath = u"/StatusNotifierWatcher"_s;
-const QString kItemInterface = u"org.kde.StatusNotifierItem"_s;
-const QString kMenuInterface = u"com.canonical.dbusmenu"_s;
+constexpr QLatin1StringView kWatcherService{"org.kde.StatusNotifierWatcher"};
+constexpr QLatin1StringView kWatcherPath{"/StatusNotifierWatcher"};
+constexpr QLatin1StringView kItemInterface{"org.kde.StatusNotifierItem"};
+constexpr QLatin1StringView kMenuInterface{"com.canonical.dbusmenu"};
 
 QString hostService()
 {
     return u"org.kde.StatusNotifierHost-%1"_s.arg(QCoreApplication::applicationPid());
 }
 
-QString serviceOf(const QString &item)
-{
-    return item.section(u'/', 0, 0);
-}
 QString pathOf(const QString &item)
 {
     return item.mid(item.indexOf(u'/'));
@@ -140,82 +135,6 @@ QStringList TrayMenuItem::labels() const
     return result;
 }
 
-/// The watcher's object on the bus; lives on the host's thread.
-class TrayWatcher final : public QObject, protected QDBusContext
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
-    Q_PROPERTY(
-        QStringList RegisteredStatusNotifierItems READ items NOTIFY StatusNotifierItemRegistered)
-    Q_PROPERTY(bool IsStatusNotifierHostRegistered READ isHostRegistered CONSTANT)
-    Q_PROPERTY(int ProtocolVersion READ protocolVersion CONSTANT)
-
-public:
-    explicit TrayWatcher(const QDBusConnection &bus)
-        : m_services(this)
-    {
-        m_services.setConnection(bus);
-        m_services.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
-        connect(&m_services, &QDBusServiceWatcher::serviceUnregistered, this,
-                &TrayWatcher::dropService);
-    }
-
-    QStringList items() const
-    {
-        const QMutexLocker lock(&m_mutex);
-        return m_items;
-    }
-    bool isHostRegistered() const { return true; }
-    int protocolVersion() const { return 0; }
-
-    void clear() { set({}); }
-
-    // The names on the bus are these, capital letters included.
-public Q_SLOTS:
-    /// `service` is a name on the bus or, from some programs, only an object path.
-    void RegisterStatusNotifierItem(const QString &service)
-    {
-        const bool isPath = service.startsWith(u'/');
-        const QString owner = isPath ? message().service() : service;
-        const QString item = owner + (isPath ? service : u"/StatusNotifierItem"_s);
-        const QStringList known = items();
-        if (!known.contains(item)) {
-            set(known + QStringList(item));
-            m_services.addWatchedService(owner);
-            Q_EMIT StatusNotifierItemRegistered(item);
-        }
-    }
-    void RegisterStatusNotifierHost(const QString &) { Q_EMIT StatusNotifierHostRegistered(); }
-
-Q_SIGNALS:
-    void StatusNotifierItemRegistered(const QString &item);
-    void StatusNotifierItemUnregistered(const QString &item);
-    void StatusNotifierHostRegistered();
-
-private:
-    void dropService(const QString &service)
-    {
-        m_services.removeWatchedService(service);
-        QStringList left = items();
-        for (const QString &item : items()) {
-            if (serviceOf(item) == service && left.removeOne(item)) {
-                set(left);
-                Q_EMIT StatusNotifierItemUnregistered(item);
-            }
-        }
-    }
-
-    void set(const QStringList &items)
-    {
-        const QMutexLocker lock(&m_mutex);
-        m_items = items;
-    }
-
-    QDBusServiceWatcher m_services;
-    mutable QMutex m_mutex;
-    QStringList m_items;
-};
-
 TrayHost::TrayHost()
     : m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"tray-host"_s))
     , m_watcher(new TrayWatcher(m_bus)) // deleted by its thread
@@ -237,15 +156,15 @@ TrayHost::~TrayHost()
 
 bool TrayHost::start()
 {
-    m_running = m_running ||
-                (m_bus.registerService(hostService()) && m_bus.registerService(kWatcherService));
+    m_running = m_running || (m_bus.registerService(hostService()) &&
+                              m_bus.registerService(QString(kWatcherService)));
     return m_running;
 }
 
 void TrayHost::stop()
 {
     m_running = false;
-    m_bus.unregisterService(kWatcherService);
+    m_bus.unregisterService(QString(kWatcherService));
     m_bus.unregisterService(hostService());
     m_watcher->clear();
 }
@@ -263,7 +182,7 @@ QString TrayHost::orOldest(const QString &item) const
 QDBusMessage TrayHost::call(const QString &item, const QString &path, const QString &interface,
                             const QString &method, const QVariantList &arguments)
 {
-    const QString service = serviceOf(orOldest(item));
+    const QString service = TrayWatcher::serviceOf(orOldest(item));
     if (service.isEmpty() || path.isEmpty()) {
         return QDBusMessage::createError(QDBusError::ServiceUnknown, u"no tray icon"_s);
     }
@@ -284,7 +203,7 @@ QVariant TrayHost::property(const QString &name, const QString &item)
 {
     const QDBusMessage reply =
         call(item, pathOf(orOldest(item)), u"org.freedesktop.DBus.Properties"_s, u"Get"_s,
-             {kItemInterface, name});
+             {QString(kItemInterface), name});
     return reply.type() == QDBusMessage::ReplyMessage
                ? reply.arguments().value(0).value<QDBusVariant>().variant()
                : QVariant();
@@ -343,5 +262,3 @@ bool TrayHost::click(const QString &label, const QString &item)
     const TrayMenuItem *entry = findClickable(root, label);
     return entry != nullptr && sendEvent(entry->id, u"clicked"_s, item);
 }
-
-#include "TrayHost.moc"

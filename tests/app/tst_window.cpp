@@ -1,0 +1,369 @@
+#include "AppState.h"
+#include "CatalogItemDelegate.h"
+#include "CatalogTreeModel.h"
+#include "MainWindow.h"
+#include "RequestLink.h"
+#include "ShellFixture.h"
+#include "WindowController.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTabBar>
+#include <QTest>
+#include <QTreeView>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kConnect = "POST /v1/connect";
+constexpr auto kDisconnect = "POST /v1/disconnect";
+constexpr auto kFavorite = "POST /v1/nodes/favorite";
+constexpr auto kRefresh = "POST /v1/nodes/refresh";
+constexpr auto kNodes = R"({"pingRunning":true,"nodes":[{"id":"t1","name":"Tokyo 1","tags":["x"]},
+    {"id":"b1","name":"Berlin 1"}]})";
+
+/// Somebody in front of the window, who sees, points and types.
+struct Person
+{
+    Person()
+    {
+        desk.answer("GET /v1/nodes", kNodes);
+        desk.answer("GET /v1/nodes/groups", R"({"tabs":[{"group_type":"Asia","node_ids":["t1"]},
+            {"group_type":"Europe","node_ids":["b1"]}]})");
+    }
+    bool start() { return desk.start() && QTest::qWaitForWindowActive(desk.window()); }
+
+    /// What nothing covers under this name; null when there is nothing.
+    template<class Widget = QWidget>
+    Widget *see(const QString &name) const
+    {
+        for (Widget *widget : desk.window()->findChildren<Widget *>(name)) {
+            const QWidget *top =
+                QApplication::widgetAt(widget->mapToGlobal(widget->rect().center()));
+            if (widget->isVisible() && (top == widget || widget->isAncestorOf(top))) {
+                return widget;
+            }
+        }
+        return nullptr;
+    }
+    bool press(const QString &name) const
+    {
+        QWidget *widget = see(name);
+        const bool can = widget && widget->isEnabled();
+        if (can) {
+            QTest::mouseClick(widget, Qt::LeftButton);
+        }
+        return can;
+    }
+    static void key(int key) { QTest::keyClick(QApplication::focusWidget(), Qt::Key(key)); }
+    static void ctrl(int key)
+    {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), Qt::ControlModifier);
+    }
+    static void type(const char *text)
+    {
+        QTest::keyClicks(QApplication::focusWidget(), QLatin1StringView(text));
+    }
+    QString title() const { return desk.text(u"VantuCurrentPageTitle"_s); }
+    bool reads(const QString &sentence) const
+    {
+        const auto labels = desk.window()->findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(), [&sentence](const QLabel *label) {
+            return label->isVisible() && label->text() == sentence;
+        });
+    }
+    /// A row of the list of places that is in sight.
+    QModelIndex row(const char *text) const
+    {
+        for (auto *list : desk.window()->findChildren<QTreeView *>()) {
+            for (const QModelIndex &index :
+                 list->model()->match(list->model()->index(0, 0), Qt::DisplayRole,
+                                      QLatin1StringView(text), -1, Qt::MatchRecursive)) {
+                if (list->isVisible() && list->visualRect(index).isValid()) {
+                    return index;
+                }
+            }
+        }
+        return {};
+    }
+    bool isStarred(const char *text) const
+    {
+        return row(text).data(CatalogTreeModel::FavoriteRole).toBool();
+    }
+    void pressStar(const char *text) const
+    {
+        const auto *list = see<QTreeView>(u"VantuLocationsTree"_s);
+        const QRect star = CatalogItemDelegate::favoriteRect(list->visualRect(row(text)), {});
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, star.center());
+    }
+    /// Brings all places into sight.
+    bool searchAll() const
+    {
+        ctrl(Qt::Key_2);
+        ctrl(Qt::Key_F);
+        type("1");
+        return row("Tokyo 1").isValid() && row("Berlin 1").isValid();
+    }
+
+    ShellFixture desk;
+};
+
+using Act = bool (*)(const Person &);
+
+} // namespace
+
+Q_DECLARE_METATYPE(Act)
+
+/// The window over the whole shell, as its user meets it.
+class TestWindow final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void signInGuard_data()
+    {
+        QTest::addColumn<Act>("ask");
+        QTest::newRow("button") << Act(
+            [](const Person &p) { return p.press(u"VantuVPNPrimaryAction"_s); });
+        QTest::newRow("quick entry") << Act([](const Person &p) {
+            p.ctrl(Qt::Key_F);
+            p.type("tok");
+            p.key(Qt::Key_Return);
+            return true;
+        });
+        QTest::newRow("place") << Act(
+            [](const Person &p) { return p.searchAll() && p.press(u"VantuLocationsConnect"_s); });
+    }
+    void signInGuard()
+    {
+        QFETCH(Act, ask);
+        Person p;
+        QVERIFY(p.start() && p.desk.poll(R"({"tunnel_state":"off","auth_state":"expired"})"));
+        QCOMPARE(p.desk.button()->text(), u"Sign In"_s);
+        QVERIFY(ask(p));
+        QCOMPARE(p.title(), u"Account"_s);
+        QVERIFY(p.reads(u"Sign in to connect."_s) && p.desk.poll());
+        QCOMPARE(p.desk.count(kConnect), 0);
+    }
+
+    void primaryButton_data()
+    {
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<QByteArray>("route");
+        QTest::addColumn<QString>("during");
+        QTest::newRow("disconnected") << u"Connect"_s << QByteArray(kConnect) << u"Cancel"_s;
+        QTest::newRow("connected")
+            << u"Disconnect"_s << QByteArray(kDisconnect) << u"Disconnecting..."_s;
+        QTest::newRow("retrying") << u"Cancel"_s << QByteArray(kDisconnect) << u"Canceling..."_s;
+    }
+    void primaryButton()
+    {
+        QFETCH(QString, label);
+        QFETCH(QByteArray, route);
+        QFETCH(QString, during);
+        Person p;
+        QVERIFY(p.start() && p.desk.poll(status(QTest::currentDataTag())));
+        QCOMPARE(p.desk.button()->text(), label);
+        p.desk.answerHeld(route);
+        QVERIFY(p.press(u"VantuVPNPrimaryAction"_s));
+        QCOMPARE(p.desk.button()->text(), during);
+        QTRY_COMPARE(p.desk.body(route), "{}");
+        p.desk.daemon.release();
+        QTRY_COMPARE(p.desk.button()->text(), label);
+        p.desk.daemon.stop();
+        QVERIFY(p.desk.poll());
+        QTRY_COMPARE(p.desk.text(u"VantuStatusTitle"_s), u"Daemon unavailable"_s);
+        QCOMPARE(p.desk.button()->text(), u"Connect"_s);
+        QVERIFY(!p.press(u"VantuVPNPrimaryAction"_s));
+    }
+
+    void quickEntry()
+    {
+        Person p;
+        QVERIFY(p.start());
+        p.ctrl(Qt::Key_4);
+        p.ctrl(Qt::Key_F);
+        p.type("ber");
+        QVERIFY(p.see(u"VantuVPNQuickEntry"_s));
+        p.key(Qt::Key_Escape);
+        QVERIFY(!p.see(u"VantuVPNQuickEntry"_s));
+        QCOMPARE(p.see<QLineEdit>(u"VantuVPNSearch"_s)->text(), u"ber"_s);
+        p.key(Qt::Key_Escape);
+        QVERIFY(p.see<QLineEdit>(u"VantuVPNSearch"_s)->text().isEmpty());
+        p.type("ber");
+        p.key(Qt::Key_Return);
+        QTRY_COMPARE(p.desk.body(kConnect), R"({"node":"b1"})");
+        QVERIFY(!p.see(u"VantuVPNQuickEntry"_s));
+    }
+
+    void searchAndScope()
+    {
+        Person p;
+        QVERIFY(p.start() && p.searchAll());
+        auto *tabs = p.see<QTabBar>(u"VantuLocationsTabs"_s);
+        QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(1).center());
+        QVERIFY(p.row("Berlin 1").isValid() && !p.row("Tokyo 1").isValid());
+        QVERIFY(p.press(u"VantuLocationsShowAllMatches"_s) && p.row("Tokyo 1").isValid());
+        p.ctrl(Qt::Key_F); // Works whatever has the focus.
+        p.key(Qt::Key_Escape);
+        QVERIFY(!p.row("Berlin 1").isValid() && p.press(u"VantuLocationsConnect"_s));
+        QTRY_COMPARE(p.desk.body(kConnect), R"({"group":"Asia","smart":true})");
+    }
+
+    void favorites()
+    {
+        Person p;
+        QVERIFY(p.start() && p.searchAll());
+        p.desk.answer("GET /v1/nodes/groups",
+                      R"({"tabs":[{"group_type":"Favorite","node_ids":["t1","b1"]}]})");
+        p.desk.answerHeld(kFavorite, kNodes);
+        p.pressStar("Tokyo 1");
+        p.pressStar("Berlin 1");
+        QVERIFY(p.isStarred("Tokyo 1") && p.isStarred("Berlin 1"));
+        for (const char *body :
+             {R"({"favorite":true,"node":"t1"})", R"({"favorite":true,"node":"b1"})"}) {
+            QTRY_COMPARE(p.desk.body(kFavorite), body);
+            p.desk.daemon.release();
+        }
+        QTRY_VERIFY(!p.row("Berlin 1").data(CatalogTreeModel::FavoritePendingRole).toBool());
+        QVERIFY(p.isStarred("Tokyo 1") && p.isStarred("Berlin 1"));
+
+        for (const QString &error : {u" No room. "_s, u" "_s}) {
+            p.pressStar("Tokyo 1");
+            QVERIFY(!p.isStarred("Tokyo 1"));
+            for (quint64 id = RequestLink::kShellFirstId; !p.isStarred("Tokyo 1"); ++id) {
+                p.desk.shell().handleWindowNodesFinished(id, {}, error);
+            }
+            QCOMPARE(p.desk.notice(),
+                     error == " "_L1 ? u"Could not update favorite"_s : error.trimmed());
+        }
+    }
+
+    void refresh()
+    {
+        Person p;
+        QVERIFY(p.start() && p.searchAll());
+        p.desk.answerHeld(kRefresh, kNodes);
+        QVERIFY(p.press(u"VantuLocationsRefresh"_s) && !p.press(u"VantuLocationsRefresh"_s));
+        QTRY_COMPARE(p.desk.body(kRefresh), "{}");
+        p.pressStar("Berlin 1");
+        QCOMPARE(p.desk.notice(), u"A locations update is already in progress"_s);
+        QVERIFY(!p.isStarred("Berlin 1"));
+        p.desk.daemon.release();
+        QTRY_COMPARE(p.desk.notice(), u"Locations updated"_s);
+        const QWidget *button = p.see(u"VantuLocationsRefresh"_s);
+        QVERIFY(button->accessibleName().startsWith("Refresh available in "_L1));
+        QVERIFY(!button->isEnabled() && p.desk.count(kFavorite) == 0);
+    }
+
+    void navigation()
+    {
+        Person p;
+        QVERIFY(p.start());
+        const auto isAt = [&p](int page) {
+            const auto *card =
+                p.desk.window()
+                    ->findChildren<QPushButton *>(QRegularExpression(u"^VantuSidebar"_s))
+                    .value(page);
+            return card->isChecked() && p.title() == card->text() &&
+                   p.desk.window()->currentPage() == Page(page);
+        };
+        for (const int page : {4, 3, 2, 1, 0}) {
+            p.ctrl(Qt::Key_1 + page);
+            QVERIFY(isAt(page));
+        }
+        p.see(u"VantuSidebarVPN"_s)->setFocus();
+        for (const int page : {1, 2, 3, 4, 4}) {
+            p.key(Qt::Key_Down);
+            QVERIFY(isAt(page));
+        }
+    }
+
+    void leavingModePage()
+    {
+        Person p;
+        QVERIFY(p.start());
+        QStringList seen;
+        connect(p.desk.window(), &MainWindow::modePageLeft, this, [&] { seen += u"left"_s; });
+        connect(p.desk.window(), &MainWindow::hiddenToTray, this, [&] { seen += u"hidden"_s; });
+        for (const int key : {Qt::Key_3, Qt::Key_3, Qt::Key_4, Qt::Key_3, Qt::Key_W}) {
+            p.ctrl(key);
+        }
+        QCOMPARE(seen, QStringList({u"left"_s, u"left"_s, u"hidden"_s}));
+        QVERIFY(!p.desk.window()->isVisible());
+    }
+
+    void appearance()
+    {
+        Person p;
+        QVERIFY(p.start());
+        const QSignalSpy changed(p.desk.window(), &MainWindow::appearancePreferenceChanged);
+        for (const auto &wish : {u"dark"_s, u"dark"_s, u"light"_s, u"blue"_s, QString()}) {
+            p.desk.window()->setAppearancePreference(wish);
+            QCOMPARE(GuiPreferences().appearance(),
+                     wish == "dark"_L1 || wish == "light"_L1 ? wish : u"system"_s);
+        }
+        QCOMPARE(changed.count(), 3);
+    }
+
+    void everythingHasName()
+    {
+        Person p;
+        QVERIFY(p.start());
+        p.desk.shell().windows().showNotice(u"Hello"_s, MainWindow::NoticeKind::Info);
+        for (const int key : {Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_5, Qt::Key_1, Qt::Key_F}) {
+            p.ctrl(key);
+            for (QWidget *widget : p.desk.window()->findChildren<QWidget *>()) {
+                const auto *spoken = QAccessible::queryAccessibleInterface(widget);
+                QVERIFY2(!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus ||
+                             !spoken->text(QAccessible::Name).isEmpty(),
+                         qPrintable(widget->objectName()));
+            }
+        }
+    }
+
+    void tabReachesAll()
+    {
+        Person p;
+        QVERIFY(p.start());
+        p.ctrl(Qt::Key_4);
+        QCOMPARE(QApplication::focusWidget()->objectName(), u"VantuSidebarSettings"_s);
+        p.ctrl(Qt::Key_1);
+        QStringList reached;
+        for (int step = 0; step < 20; ++step) {
+            p.key(Qt::Key_Tab);
+            reached += QApplication::focusWidget()->objectName();
+        }
+        for (const auto *name : {"SidebarVPN", "VPNPrimaryAction", "VPNLocationCard", "VPNModeCard",
+                                 "VPNKillSwitchCard", "VPNLocalNetworkCard", "VPNSearch"}) {
+            QVERIFY2(reached.contains("Vantu"_L1 + QLatin1StringView(name)), name);
+        }
+    }
+
+    void pingsWhileLookedAt()
+    {
+        Person p;
+        QVERIFY(p.start());
+        const auto fetched = [&p] {
+            p.desk.daemon.clearRequests();
+            p.desk.shell().pollWindowNodePing();
+            return p.desk.poll() && p.desk.poll() && p.desk.count("GET /v1/nodes") > 0;
+        };
+        for (const int key : {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_F, Qt::Key_W}) {
+            p.ctrl(key);
+            const bool looks = key == Qt::Key_2 || key == Qt::Key_F;
+            QTRY_COMPARE(fetched(), looks);
+        }
+    }
+};
+
+QTEST_MAIN(TestWindow)
+#include "tst_window.moc"
