@@ -146,8 +146,14 @@ void ScriptedDaemon::release()
 
 QByteArrayList ScriptedDaemon::requests() const
 {
+    // A copy of its own, down to the bytes: a shared one would still be read here while
+    // the daemon's threads go on writing.
     const std::lock_guard lock(m_mutex);
-    return m_requests;
+    QByteArrayList copy;
+    for (const QByteArray &request : m_requests) {
+        copy.append(QByteArray(request.constData(), request.size()));
+    }
+    return copy;
 }
 
 QByteArrayList ScriptedDaemon::routes() const
