@@ -48,11 +48,6 @@ void WindowController::setExitAllowed(bool allowed)
     }
 }
 
-bool WindowController::isWindowVisible() const
-{
-    return m_window && m_window->isVisible();
-}
-
 void WindowController::ensureWindow()
 {
     if (m_window) {

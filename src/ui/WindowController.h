@@ -45,8 +45,6 @@ public:
     void setLinkOpener(LinkOpener opener) { m_linkOpener = std::move(opener); }
     void setFileLauncher(FileLauncher launcher) { m_fileLauncher = std::move(launcher); }
 
-    bool hasWindow() const { return !m_window.isNull(); }
-    bool isWindowVisible() const;
     /// How many windows were made so far.
     int windowsCreated() const { return m_windowsCreated; }
 
