@@ -19,12 +19,25 @@ QString singleLine(const QString &text, qsizetype maxLength = kMaxLineLength);
 /// with every "&" doubled. Don't use it on the program's own texts.
 QString menuText(const QString &text);
 
-/// For tool tips, which may be read as markup: `text` as markup that shows it plainly,
-/// line breaks kept.
+/// For tool tips, which may be read as markup: `text` as it is where it is short and
+/// can't be, else as markup that shows it plainly, line breaks kept.
 QString toolTip(const QString &text);
+
+/// `text`, plain and of foreign origin, made to keep its own reading direction among text
+/// that runs the other way, as where an English "10 Gbit/s" stands on an Arabic button.
+/// Do it last: the marks that this takes are what singleLine() removes.
+QString isolated(const QString &text);
+
+/// The direction in which a line is read: that of the program, unless not a single
+/// letter of it is written that way.
+Qt::LayoutDirection readingDirection(const QString &line, Qt::LayoutDirection program);
 
 /// For desktop notifications, whose servers may read markup and don't say so:
 /// singleLine without angle brackets.
 QString messageText(const QString &text);
+
+/// For texts counted by tr(…, count): English has no translation file that could choose
+/// its plural, so that the "(s)" of an untranslated text is resolved here.
+QString pluralText(QString text, int count);
 
 } // namespace plaintext

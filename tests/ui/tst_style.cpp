@@ -1,4 +1,5 @@
 #include "DesktopColorScheme.h"
+#include "EmbeddedIcon.h"
 #include "QtCompat.h"
 #include "StyleProperty.h"
 #include "Theme.h"
@@ -52,7 +53,7 @@ QStringList found(const QString &expression)
 }
 
 /// How much two colours differ in lightness, from 1 to 21, as accessibility rules count it.
-double contrast(const QColor &one, const QColor &other)
+double ratio(const QColor &one, const QColor &other)
 {
     const auto linear = [](double part) {
         return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
@@ -61,8 +62,8 @@ double contrast(const QColor &one, const QColor &other)
         return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
                0.0722 * linear(color.blueF()) + 0.05;
     };
-    const double ratio = luminance(one) / luminance(other);
-    return std::max(ratio, 1 / ratio);
+    const double lighter = luminance(one) / luminance(other);
+    return std::max(lighter, 1 / lighter);
 }
 
 } // namespace
@@ -116,8 +117,9 @@ private Q_SLOTS:
     void placeholders();
     void rendersForUse();
     void names();
-    void textIsLegible_data();
-    void textIsLegible();
+    void contrast_data();
+    void contrast();
+    void colorsInUse();
     void effectiveScheme();
     void followsTheDesktop();
     void titleBars();
@@ -223,22 +225,28 @@ void TestStyle::names()
                    "vantuSegment vantuStatusState"_s));
 }
 
-void TestStyle::textIsLegible_data()
+/// The colours of text, and of marks of focus and state, on the grounds that the template
+/// and the painting widgets put them on.
+void TestStyle::contrast_data()
 {
+    QTest::addColumn<double>("least");
+    QTest::addColumn<QString>("colors");
     QTest::addColumn<QString>("grounds");
-    QTest::newRow("textPrimary") << u"windowBg surface sidebarHover sidebarActive"_s;
-    QTest::newRow("textMuted") << u"windowBg surface sidebarBg sidebarHover sidebarActive"_s;
-    QTest::newRow("sidebarSelectedText")
-        << u"windowBg surface sidebarHover sidebarActive sidebarSelectedBg"_s;
-    QTest::newRow("error") << u"surface"_s;
-    QTest::newRow("warning") << u"surface"_s;
-    QTest::newRow("white")
+    const QString all = u"windowBg surface sidebarBg sidebarHover sidebarActive"_s;
+    QTest::newRow("text") << 4.5 << u"textPrimary textMuted sidebarSelectedText"_s << all;
+    QTest::newRow("colored text") << 4.5 << u"error warning"_s << u"surface"_s;
+    QTest::newRow("text on color")
+        << 4.5 << u"white"_s
         << u"accentStrong accentHover accentPressed danger dangerHover dangerPressed"_s;
+    QTest::newRow("mark") << 3.0 << u"accent textPrimary"_s << all;
+    QTest::newRow("colored mark") << 3.0 << u"warning error"_s << u"windowBg surface"_s;
+    QTest::newRow("tick box") << 3.0 << u"accentStrong"_s << u"surface white"_s;
 }
 
-/// The colours of text on the grounds that the template puts them on.
-void TestStyle::textIsLegible()
+void TestStyle::contrast()
 {
+    QFETCH(const double, least);
+    QFETCH(const QString, colors);
     QFETCH(const QString, grounds);
     for (const auto scheme : {ColorScheme::Light, ColorScheme::Dark}) {
         const auto color = [scheme](const QString &name) {
@@ -246,11 +254,22 @@ void TestStyle::textIsLegible()
             const QString filled = themetemplate::fill(u'@' + name + u'@', palette, {});
             return QColor(name == "white"_L1 ? name : filled);
         };
-        for (const QString &ground : words(grounds)) {
-            const QString text = QString::fromLatin1(QTest::currentDataTag());
-            QVERIFY2(contrast(color(text), color(ground)) >= 4.5, qPrintable(ground));
+        for (const QString &name : words(colors)) {
+            for (const QString &ground : words(grounds)) {
+                QVERIFY2(ratio(color(name), color(ground)) >= least,
+                         qPrintable(name + u" on "_s + ground));
+            }
         }
     }
+}
+
+/// The template uses no other colours than these for text and for the keyboard's mark.
+void TestStyle::colorsInUse()
+{
+    QCOMPARE(found(u"\n    color: @?(?!disabledText)(\\w+)"_s),
+             words(u"error sidebarSelectedText textMuted textPrimary warning white"_s));
+    QCOMPARE(found(u":focus \\{[^}]*border(?:-top)?: \\dpx solid @(\\w+)"_s),
+             words(u"accent textPrimary"_s));
 }
 
 void TestStyle::effectiveScheme()
@@ -342,6 +361,11 @@ void TestStyle::icons()
     for (const char *name : {"app.png", "app-16.png", "tray-on.png", "tray-off.png", "check.svg"}) {
         QVERIFY2(!QImage(u":/icons/"_s + QLatin1StringView(name)).isNull(), name);
     }
+    const QImage tray(u":/icons/tray-on.png"_s);
+    const QIcon icon = embeddedIcon(u":/icons/tray-on.png"_s);
+    QCOMPARE(icon.availableSizes(), QList<QSize>{tray.size()});
+    QCOMPARE(icon.pixmap(tray.size(), 1.0).toImage(), QPixmap::fromImage(tray).toImage());
+    QCOMPARE(icon.pixmap(QSize(16, 16), 2.0).size(), QSize(32, 32));
 }
 
 QTEST_MAIN(TestStyle)

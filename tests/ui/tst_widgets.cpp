@@ -4,11 +4,15 @@
 #include "FlowLayout.h"
 #include "HandOnTheme.h"
 #include "NotificationHost.h"
+#include "SearchField.h"
+#include "StyleProperty.h"
 #include "ThemePalette.h"
+#include "ThemeTemplate.h"
 #include "ThemedScrollBar.h"
 #include "ToggleSwitch.h"
 
 #include <QAccessible>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
@@ -32,6 +36,9 @@ private Q_SLOTS:
     void noticeKinds();
     void noticeComesAndGoes();
     void noticeKeepsItsPlace();
+    void searchTextStandsBesideGlass();
+    void toggleActionClicks();
+    void stylePropertyMovesMargins();
 
 private:
     const ThemePalette m_light = ThemePalette::forScheme(ColorScheme::Light);
@@ -270,6 +277,73 @@ void TestWidgets::noticeKeepsItsPlace()
     window.resize(300, 500);
     QCOMPARE(host.geometry().center().x(), 149);
     QVERIFY(host.width() < 300 && host.height() < 80);
+}
+
+void TestWidgets::searchTextStandsBesideGlass()
+{
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        SearchField field(u"Search"_s);
+        field.setStyleSheet(themetemplate::render(m_light, direction));
+        field.setLayoutDirection(direction);
+        field.resize(300, 42);
+        field.show();
+        const auto textStart = [&field, direction] {
+            field.setCursorPosition(0);
+            field.grab(); // Lays the text out.
+            const int x = field.inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
+            return direction == Qt::LeftToRight ? x : 300 - x;
+        };
+        QVERIFY2(qAbs(textStart() - 36) <= 3, qPrintable(QString::number(textStart())));
+        field.setText(direction == Qt::LeftToRight ? u"oslo"_s : u"\u05D0\u05D5"_s);
+        QVERIFY2(qAbs(textStart() - 36) <= 3, qPrintable(QString::number(textStart())));
+        const QImage grab = field.grab().toImage();
+        QRgb ground = grab.pixel(150, 21);
+        int first = 0;
+        while (first < 100 &&
+               grab.pixel(direction == Qt::LeftToRight ? 3 + first : 296 - first, 21) == ground) {
+            ++first;
+        }
+        QVERIFY2(first + 3 >= 12 && first + 3 < 28, qPrintable(QString::number(first)));
+        QVERIFY(field.findChildren<QToolButton *>().size() <= 1); // The one that clears.
+    }
+}
+
+void TestWidgets::toggleActionClicks()
+{
+    ToggleSwitch toggle;
+    toggle.setAccessibleName(u"Guard"_s);
+    QPushButton choice(u"&One && all"_s);
+    choice.setCheckable(true);
+    choice.setAutoExclusive(true);
+    for (QAbstractButton *button :
+         {static_cast<QAbstractButton *>(&toggle), static_cast<QAbstractButton *>(&choice)}) {
+        const bool isSwitch = button == &toggle;
+        QSignalSpy clicked(button, &QAbstractButton::clicked);
+        QAccessibleInterface *access = QAccessible::queryAccessibleInterface(button);
+        QCOMPARE(access->role(), isSwitch ? QAccessible::CheckBox : QAccessible::RadioButton);
+        QCOMPARE(access->text(QAccessible::Name), isSwitch ? u"Guard"_s : u"One & all"_s);
+        QVERIFY(access->state().checkable && !access->state().checked);
+        QAccessibleActionInterface *actions = access->actionInterface();
+        QVERIFY(actions->actionNames().contains(actions->toggleAction()));
+        actions->doAction(actions->toggleAction());
+        QCOMPARE(clicked.size(), 1);
+        QVERIFY(access->state().checked);
+        button->setEnabled(false);
+        actions->doAction(actions->toggleAction());
+        QCOMPARE(clicked.size(), 1);
+    }
+}
+
+void TestWidgets::stylePropertyMovesMargins()
+{
+    QLabel label(u"text"_s);
+    label.setStyleSheet(u"QLabel[vantuRole=\"error\"] { padding: 8px; }"_s);
+    label.resize(100, 40);
+    label.ensurePolished();
+    QCOMPARE(label.contentsRect().left(), 0);
+    QVERIFY(setStyleProperty(label, "vantuRole", u"error"_s));
+    QCOMPARE(label.contentsRect().left(), 8);
+    QVERIFY(!setStyleProperty(label, "vantuRole", u"error"_s));
 }
 
 QTEST_MAIN(TestWidgets)

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QLabel>
+#include <QStyle>
 #include <QWidget>
 
 namespace {
@@ -46,4 +48,11 @@ void setTextStyle(QWidget &widget, TextStyle style)
     }
     font.setWeight(rule.weight);
     widget.setFont(font);
+}
+
+void keepToLeadingEdge(QLabel &label)
+{
+    const Qt::Alignment side =
+        QStyle::visualAlignment(QGuiApplication::layoutDirection(), label.alignment());
+    label.setAlignment(side | Qt::AlignAbsolute);
 }

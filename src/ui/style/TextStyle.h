@@ -1,5 +1,6 @@
 #pragma once
 
+class QLabel;
 class QWidget;
 
 /// The text sizes of the interface. Each is a ratio of the application's font, so
@@ -16,3 +17,7 @@ enum class TextStyle {
 
 /// Gives a label or button the font of a text style.
 void setTextStyle(QWidget &widget, TextStyle style);
+
+/// Has a label's text stand where lines begin in the program's direction. By itself a
+/// label goes by the text, and an English one would stand apart in an Arabic window.
+void keepToLeadingEdge(QLabel &label);

@@ -67,9 +67,7 @@ void Theme::attach(QWidget &dialog)
 {
     style(dialog);
     connect(this, &Theme::changed, &dialog, [this, &dialog] { style(dialog); });
-    if (m_titleBarHook) {
-        new TitleBarThemer(dialog, m_titleBarHook);
-    }
+    new TitleBarThemer(dialog, m_titleBarHook);
 }
 
 void Theme::style(QWidget &widget) const

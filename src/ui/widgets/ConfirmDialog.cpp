@@ -32,6 +32,7 @@ QLabel *makeText(const QString &name, const QString &text, TextStyle style)
     label->setWordWrap(true);
     label->setMaximumWidth(kMaximumTextWidth);
     setTextStyle(*label, style);
+    keepToLeadingEdge(*label);
     return label;
 }
 

@@ -14,9 +14,6 @@
 
 namespace {
 
-/// Keeps dots beside the left-to-right text that they stand for.
-constexpr QChar kLeftToRightMark(0x200E);
-
 /// A text as it is painted.
 struct Shown
 {
@@ -24,19 +21,19 @@ struct Shown
     bool cut = false;
 };
 
-/// `text` cut off at the right end in a left-to-right layout, else at the left end, which
-/// is where text that itself runs from right to left has its end anyway. The last of several
-/// lines is cut off where reading stops, lest the middle of the text be lost.
+Qt::LayoutDirection readingDirection(const QLabel &label)
+{
+    return plaintext::readingDirection(label.text(), label.layoutDirection());
+}
+
+/// `text` cut off at the right end in a left-to-right layout, else at the left end: the end
+/// of all text but that which runs against the layout. The last of several lines is cut off
+/// where reading stops, lest the middle of the text be lost.
 QString elided(const QString &text, const QLabel &label, int width, bool lastOfSeveral)
 {
-    const bool against = label.isRightToLeft() && !text.isRightToLeft();
+    const bool against = readingDirection(label) != label.layoutDirection();
     const bool cutStart = against && !lastOfSeveral;
-    QString cut =
-        label.fontMetrics().elidedText(text, cutStart ? Qt::ElideLeft : Qt::ElideRight, width);
-    if (!against || cut == text) {
-        return cut;
-    }
-    return cutStart ? kLeftToRightMark + cut : cut + kLeftToRightMark;
+    return label.fontMetrics().elidedText(text, cutStart ? Qt::ElideLeft : Qt::ElideRight, width);
 }
 
 Shown breakUp(const QLabel &label, int width, int maximumLines)
@@ -136,7 +133,8 @@ void ElidedLabel::paintEvent(QPaintEvent *)
     const int flags =
         static_cast<int>((side & Qt::AlignHorizontal_Mask) | Qt::AlignAbsolute | Qt::AlignTop) |
         Qt::TextSingleLine |
-        (isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight);
+        (readingDirection(*this) == Qt::RightToLeft ? Qt::TextForceRightToLeft
+                                                    : Qt::TextForceLeftToRight);
     for (const QString &line : lines) {
         style()->drawItemText(&painter, place, flags, palette(), isEnabled(), line,
                               foregroundRole());

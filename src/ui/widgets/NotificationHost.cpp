@@ -23,6 +23,7 @@ namespace {
 constexpr int kMaximumWidth = 520;
 constexpr int kSideMargin = 16;
 constexpr int kGap = 8;
+constexpr int kMargin = 6;
 constexpr int kCloseSize = 28;
 constexpr int kCloseIconSize = 16;
 /// Longer messages go on in the tool tip, so that the banner stays a banner.
@@ -90,8 +91,9 @@ void NotificationHost::build()
     setCloseColor(palette().color(QPalette::PlaceholderText));
 
     auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(12, 6, 6, 6);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     layout->setSpacing(kGap);
+    layout->addSpacing(kMargin); // Margins aren't mirrored, spacings are.
     layout->addWidget(m_icon);
     layout->addWidget(m_message, 1);
     layout->addWidget(m_close, 0, Qt::AlignTop);

@@ -3,10 +3,12 @@
 #include <QColor>
 #include <QLineEdit>
 
-class QAction;
+class QEvent;
+class QPaintEvent;
+class QResizeEvent;
 
 /// A line edit for searches, 42 pixels high, with a magnifying glass before the text and a
-/// button that clears it.
+/// button that clears it. The text stands beside the glass in either reading direction.
 class SearchField final : public QLineEdit
 {
     Q_OBJECT
@@ -18,6 +20,13 @@ public:
     /// The colour of both icons; handOnTheme() sets it.
     void setIconColor(const QColor &color);
 
+protected:
+    void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
 private:
-    QAction *m_glass = nullptr;
+    void makeRoomForGlass();
+
+    QColor m_iconColor;
 };

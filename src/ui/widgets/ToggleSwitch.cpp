@@ -1,5 +1,7 @@
 #include "ToggleSwitch.h"
 
+#include "ButtonAccess.h"
+
 #include <QPainter>
 #include <QPalette>
 
@@ -23,7 +25,9 @@ QColor themed(const QWidget &widget, const char *property, const QColor &fallbac
 
 ToggleSwitch::ToggleSwitch(QWidget *parent)
     : QCheckBox(parent)
-{}
+{
+    ButtonAccess::install();
+}
 
 QSize ToggleSwitch::sizeHint() const
 {
