@@ -1,5 +1,6 @@
 #include "VpnPageFixture.h"
 
+#include "PlainText.h"
 #include "QuickEntryContent.h"
 #include "QuickEntryRow.h"
 
@@ -67,7 +68,6 @@ void QuickEntryTest::content_data()
     row("japan", {u"2"_s, u"1"_s, u"@JP"_s});
     row("tokyo", {u"1"_s});
     row("TOKYO-japan", {u"1"_s});
-    row("to", {u"1"_s});
     row("hong_kong", {u"3"_s, u"@HK"_s});
     row("\u6e2f", {u"3"_s});
     row("europe norway", {u"4"_s, u"@NO"_s});
@@ -144,7 +144,8 @@ void QuickEntryTest::keyboardWalk()
 
     const auto focus = [] {
         const auto *button = qobject_cast<QPushButton *>(QApplication::focusWidget());
-        return button ? button->objectName().mid(18) + button->text() : u"field"_s;
+        return button ? button->objectName().mid(18) + plaintext::singleLine(button->text())
+                      : u"field"_s;
     };
     const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
     QStringList walk;
@@ -175,21 +176,12 @@ void QuickEntryTest::keysOfTheField()
     VpnPageFixture test;
     test.state.setNodes(nodes());
     test.state.setNodeGroups(groups());
-    QSignalSpy visible(test.page, &VpnPage::quickEntryVisibleChanged);
     QSignalSpy connects(test.page, &VpnPage::connectNodeRequested);
     QSignalSpy smart(test.page, &VpnPage::connectSmartRequested);
     QSignalSpy browse(test.page, &VpnPage::browseLocationsRequested);
     auto *field = test.find<QLineEdit>("VantuVPNSearch");
     QVERIFY(QTest::qWaitForWindowActive(&test.window));
     field->setFocus();
-
-    QTest::keyClicks(field, u"tokyo"_s);
-    QCOMPARE(visible, (QList<QVariantList>{{true}}));
-    QTest::keyClick(field, Qt::Key_Escape);
-    QCOMPARE(visible.size(), 2);
-    QCOMPARE(field->text(), u"tokyo"_s);
-    QTest::keyClick(field, Qt::Key_Escape);
-    QVERIFY(field->text().isEmpty());
 
     QTest::keyClicks(field, u"tokyo"_s);
     QTest::keyClick(field, Qt::Key_Return);
@@ -299,7 +291,6 @@ void QuickEntryTest::closesByItself()
 
 void QuickEntryTest::rowsStayInShape()
 {
-    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     VpnPageFixture test;
     NodesInfo info = nodes();
     info.nodes[3].name += QString(4000, u'y');
@@ -314,8 +305,6 @@ void QuickEntryTest::rowsStayInShape()
     QCOMPARE(popup->width(), field->width());
     QCOMPARE(popup->mapToGlobal(QPoint()).x(), field->mapToGlobal(QPoint()).x());
     QVERIFY(popup->geometry().bottom() < test.window.height());
-    QVERIFY(row->star()->x() < row->width() / 2);
-    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 QTEST_MAIN(QuickEntryTest)

@@ -122,6 +122,7 @@ void CatalogItemDelegate::setThemePalette(const ThemePalette &palette)
         .muted = QColor(palette.textMuted),
         .disabled = QColor(palette.disabledText),
         .accent = QColor(palette.accent),
+        .word = QColor(palette.sidebarSelectedText),
         .hover = QColor(palette.sidebarHover),
         .active = QColor(palette.sidebarActive),
         .flagBorder = QColor(palette.badgeBorder),
@@ -217,7 +218,7 @@ void CatalogItemDelegate::paintNode(const Canvas &canvas, const QModelIndex &ind
         paintDot(canvas, left);
         left += kDotSize + kDotGap;
         canvas.text(left, wordWidth, word, small,
-                    canvas.isEnabled() ? m_colors.accent : m_colors.disabled);
+                    canvas.isEnabled() ? m_colors.word : m_colors.disabled);
         left += wordWidth + kPadding;
     }
     if (end - left >= kShortestTags) {

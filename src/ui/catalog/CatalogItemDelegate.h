@@ -41,6 +41,7 @@ private:
         QColor muted;
         QColor disabled;
         QColor accent;
+        QColor word; ///< Says in letters what the accent says.
         QColor hover;
         QColor active;
         QColor flagBorder;

@@ -12,7 +12,6 @@
 #include "StyleProperty.h"
 
 #include <QAccessible>
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -404,11 +403,7 @@ void LocationsPage::renderMessage()
     } else if (m_catalogStale) {
         message = tr("Cached locations may be stale. Refresh to update.");
     }
-    if (setStyleProperty(*m_message, "vantuRole", m_errorShown ? u"error"_s : u"muted"_s)) {
-        // Only errors have a frame, whose width a label takes from its style just then.
-        QEvent styleChange(QEvent::StyleChange);
-        QCoreApplication::sendEvent(m_message, &styleChange);
-    }
+    setStyleProperty(*m_message, "vantuRole", m_errorShown ? u"error"_s : u"muted"_s);
     m_message->setText(message);
     m_message->setVisible(!message.isEmpty());
 }

@@ -8,6 +8,7 @@
 #include "LocationsTools.h"
 #include "SearchField.h"
 #include "StyleProperty.h"
+#include "TextStyle.h"
 #include "ThemePalette.h"
 
 #include <QFrame>
@@ -68,6 +69,7 @@ void LocationsPage::buildMessage(QVBoxLayout &column)
     m_message->setObjectName(u"VantuLocationsMessage"_s);
     m_message->setTextFormat(Qt::PlainText);
     m_message->setWordWrap(true);
+    keepToLeadingEdge(*m_message);
     m_message->hide();
 
     column.addWidget(m_message);
@@ -90,6 +92,7 @@ void LocationsPage::buildList(QVBoxLayout &column)
     m_stack->addWidget(m_tree);
     m_showAllMatches = new QPushButton(tr("Show all matches"), group);
     m_showAllMatches->setObjectName(u"VantuLocationsShowAllMatches"_s);
+    m_showAllMatches->setAutoDefault(true); // Return presses it, like Space.
     m_showAllMatches->hide();
 
     auto *layout = new QVBoxLayout(group);
@@ -113,6 +116,7 @@ QWidget *LocationsPage::buildEmptyPage()
     setStyleProperty(*m_empty, "vantuRole", u"muted"_s);
     m_emptyAction = new QPushButton(page);
     m_emptyAction->setObjectName(u"VantuLocationsEmptyAction"_s);
+    m_emptyAction->setAutoDefault(true);
 
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(kEmptyMargin, kEmptyMargin, kEmptyMargin, kEmptyMargin);

@@ -9,7 +9,6 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QTextDocument>
 #include <QToolButton>
 
 #include <algorithm>
@@ -50,17 +49,18 @@ LocationsTools::LocationsTools(QWidget *parent)
     : QFrame(parent)
 {
     setObjectName(u"VantuLocationsTools"_s);
-    auto *actions = new QFrame(this);
-    actions->setObjectName(u"VantuLocationsActions"_s);
     m_search = new SearchField(LocationsTexts::tr("Search locations or nodes"), this);
     m_search->setObjectName(u"VantuLocationsSearch"_s);
     m_search->setFixedHeight(kToolSize);
+    auto *actions = new QFrame(this);
+    actions->setObjectName(u"VantuLocationsActions"_s);
     m_toggle = toolButton(u"VantuLocationsToggleGroups"_s, actions);
     m_refresh = toolButton(u"VantuLocationsRefresh"_s, actions);
     m_connect = new QPushButton(LocationsTexts::tr("Connect"), actions);
     m_connect->setObjectName(u"VantuLocationsConnect"_s);
     m_connect->setFixedHeight(kToolSize);
     m_connect->setMinimumWidth(kConnectWidth);
+    m_connect->setAutoDefault(true); // Return presses it, like Space.
     setStyleProperty(*m_connect, "vantuPrimaryRole", u"connect"_s);
 
     auto *actionRow = new QHBoxLayout(actions);
@@ -153,5 +153,5 @@ void LocationsTools::describe(QWidget &button, const QString &text, bool needsDa
     }
     const bool isAway = needsDaemon && !m_daemonAvailable && !m_unavailableReason.isEmpty();
     const QString toolTip = isAway ? m_unavailableReason : text;
-    button.setToolTip(Qt::mightBeRichText(toolTip) ? plaintext::toolTip(toolTip) : toolTip);
+    button.setToolTip(plaintext::toolTip(toolTip));
 }

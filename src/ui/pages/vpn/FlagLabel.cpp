@@ -25,13 +25,18 @@ bool FlagLabel::hasFlag() const
 
 void FlagLabel::paintEvent(QPaintEvent *)
 {
-    const QPixmap flag = flagPixmap(m_code, m_size, devicePixelRatioF());
-    if (flag.isNull()) {
+    if (m_code.isEmpty()) {
         return;
     }
+    const QPixmap flag = flagPixmap(m_code, m_size, devicePixelRatioF());
     QPainter painter(this);
     painter.setOpacity(isEnabled() ? 1.0 : 0.5);
-    painter.drawPixmap(rect(), flag);
+    if (flag.isNull()) {
+        // A place of no known country has a plain one.
+        painter.fillRect(rect(), palette().color(QPalette::AlternateBase));
+    } else {
+        painter.drawPixmap(rect(), flag);
+    }
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 }

@@ -16,7 +16,7 @@ public:
 
     /// A code as flagCode() gives it; empty for no flag.
     void setCode(const QString &code);
-    /// Whether there is a flag to be seen.
+    /// Whether this country's own flag is to be seen.
     bool hasFlag() const;
 
 protected:

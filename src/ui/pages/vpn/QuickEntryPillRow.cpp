@@ -73,7 +73,7 @@ void QuickEntryPillRow::render()
         QPushButton *pill = m_pills.at(i);
         if (i < shown) {
             const QString text = plaintext::singleLine(m_texts.at(i), kMaxPillLength);
-            pill->setText(plaintext::menuText(text));
+            pill->setText(plaintext::isolated(plaintext::menuText(text)));
             pill->setAccessibleName(text);
         }
         pill->setVisible(i < shown);

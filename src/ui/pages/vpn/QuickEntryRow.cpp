@@ -10,7 +10,6 @@
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QStringList>
 #include <QToolButton>
 
@@ -46,7 +45,7 @@ QuickEntryRow::QuickEntryRow(QWidget *parent)
     : QPushButton(parent)
     , m_flag(new FlagLabel(FlagSize::Row, this))
     , m_text(new ElidedLabel(this))
-    , m_ping(new QLabel(this))
+    , m_ping(new ElidedLabel(this))
     , m_bars(new QuickEntrySignalBars(this))
     , m_star(new QToolButton(this))
 {
@@ -56,7 +55,6 @@ QuickEntryRow::QuickEntryRow(QWidget *parent)
     m_text->setObjectName(u"VantuVPNQuickEntryItemText"_s);
     m_bars->setObjectName(u"VantuVPNQuickEntryItemSignal"_s);
     m_ping->setObjectName(u"VantuVPNQuickEntryItemPing"_s);
-    m_ping->setTextFormat(Qt::PlainText);
     m_ping->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     m_ping->setProperty("vantuRole", u"muted"_s);
     setTextStyle(*m_ping, TextStyle::Note);

@@ -8,7 +8,6 @@
 
 class ElidedLabel;
 class FlagLabel;
-class QLabel;
 class QToolButton;
 class QuickEntrySignalBars;
 
@@ -54,7 +53,7 @@ private:
     QuickEntryLook m_look;
     FlagLabel *m_flag = nullptr;
     ElidedLabel *m_text = nullptr;
-    QLabel *m_ping = nullptr;
+    ElidedLabel *m_ping = nullptr;
     QuickEntrySignalBars *m_bars = nullptr;
     QToolButton *m_star = nullptr;
 };

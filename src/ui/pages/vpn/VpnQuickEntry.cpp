@@ -30,7 +30,10 @@ VpnQuickEntry::VpnQuickEntry(AppState &state, RecentActivityStore &recents, Sear
     , m_popup(new VpnQuickEntryPopup(field.parentWidget()))
 {
     m_refreshTimer.setSingleShot(true);
-    connect(&m_refreshTimer, &QTimer::timeout, this, &VpnQuickEntry::refresh);
+    connect(&m_refreshTimer, &QTimer::timeout, this, [this] {
+        readCatalog();
+        refresh();
+    });
     connect(&state, &AppState::nodesChanged, this, &VpnQuickEntry::noteCatalogChange);
     connect(&state, &AppState::nodeGroupsChanged, this, &VpnQuickEntry::noteCatalogChange);
     connect(&field, &QLineEdit::textEdited, this, &VpnQuickEntry::open);
@@ -135,10 +138,20 @@ void VpnQuickEntry::applyThemePalette(const ThemePalette &palette)
 
 void VpnQuickEntry::noteCatalogChange()
 {
-    // Nodes and groups arrive one after the other; and nobody looks while it is closed.
+    // Nodes and groups arrive one after the other; and nobody looks at a hidden field. In
+    // sight of one the catalogue is read before it is asked for, so that the first key
+    // press is as quick as any.
     m_catalogOutdated = true;
-    if (m_open) {
+    if (m_field.isVisible()) {
         m_refreshTimer.start();
+    }
+}
+
+void VpnQuickEntry::readCatalog()
+{
+    if (m_catalogOutdated) {
+        m_catalogOutdated = false;
+        m_catalog = QuickEntryCatalog(m_state.nodes(), m_state.nodeGroups());
     }
 }
 
@@ -147,10 +160,7 @@ void VpnQuickEntry::refresh()
     if (!m_open) {
         return;
     }
-    if (m_catalogOutdated) {
-        m_catalogOutdated = false;
-        m_catalog = QuickEntryCatalog(m_state.nodes(), m_state.nodeGroups());
-    }
+    readCatalog();
     const QuickEntryHistory history{m_recents.searches(), m_recents.nodes(),
                                     m_recents.nodesCleared(),
                                     facts::effectiveConnected(m_state.runtime(), m_state.nodes())};
@@ -196,6 +206,9 @@ bool VpnQuickEntry::eventFilter(QObject *watched, QEvent *event)
         if (m_open) {
             place();
         }
+        return false;
+    case QEvent::Show:
+        m_refreshTimer.start();
         return false;
     case QEvent::Hide:
         close();

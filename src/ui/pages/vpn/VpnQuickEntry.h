@@ -56,6 +56,7 @@ protected:
 private:
     void connectPopup();
     void noteCatalogChange();
+    void readCatalog();
     void refresh();
     void place();
     bool handleFieldKey(QKeyEvent &event);

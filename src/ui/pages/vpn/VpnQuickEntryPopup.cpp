@@ -142,9 +142,11 @@ VpnQuickEntryPopup::Header VpnQuickEntryPopup::addHeader(QVBoxLayout &column, co
     watch(header.clear);
 
     auto *row = new QHBoxLayout(header.bar);
-    row->setContentsMargins(0, 0, kSideMargin, 0);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
     row->addLayout(line, 1);
     row->addWidget(header.clear);
+    row->addSpacing(kSideMargin); // Margins aren't mirrored, spacings are.
     column.addWidget(header.bar);
     return header;
 }

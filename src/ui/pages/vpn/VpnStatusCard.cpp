@@ -8,6 +8,7 @@
 #include "TextStyle.h"
 #include "VpnSummary.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -72,7 +73,12 @@ void VpnStatusCard::render(const VpnSummary &summary)
 {
     const PrimaryAction &action = summary.action;
     m_intent = action.intent;
+    const bool isNews = m_title->text() != action.title;
     m_title->setText(action.title);
+    if (isNews && isVisible()) {
+        QAccessibleEvent alert(m_title, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
     setStyleProperty(*m_dot, "vantuStatusState", action.statusState);
     setStyleProperty(*m_detail, "vantuRole", summary.detailIsError ? u"error"_s : u"muted"_s);
     m_detail->setText(summary.detail);
