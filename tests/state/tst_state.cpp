@@ -1,5 +1,4 @@
 #include "AppState.h"
-#include "MemoryLog.h"
 #include "ModeRequests.h"
 #include "RuntimeFacts.h"
 
@@ -130,27 +129,6 @@ private Q_SLOTS:
         QTEST(facts::isConnected(runtime), "connected");
     }
 
-    void wordsOfRecords()
-    {
-        QVERIFY(facts::isSignedIn({.authState = u"logged_in"_s}));
-        QVERIFY(facts::isSignedIn({.authState = u" Cached "_s}));
-        QVERIFY(!facts::isSignedIn({.authState = u"logged_out"_s}));
-        QVERIFY(!facts::isSplit({.transport = u"vantuvpn"_s, .policy = u" Global"_s}));
-        QVERIFY(!facts::isSplit({.transport = u"proxy"_s, .policy = u" "_s}));
-        QVERIFY(facts::isSplit({.transport = u"VantuVPN "_s, .policy = u"gfwlist"_s}));
-
-        const KillSwitchInfo lockdown{.known = true, .mode = u"Lockdown"_s};
-        const KillSwitchInfo off{.known = true, .mode = u"off"_s};
-        QVERIFY(facts::isKillSwitchOn(lockdown) && facts::isLockdown(lockdown));
-        QVERIFY(facts::isKillSwitchOn({.enabled = true}));
-        QVERIFY(!facts::isKillSwitchOn(off) && !facts::isLockdown(off));
-        AppState state;
-        state.setRuntime({.killSwitch = lockdown});
-        QCOMPARE(facts::effectiveKillSwitch(state), lockdown);
-        state.setKillSwitch(off);
-        QCOMPARE(facts::effectiveKillSwitch(state), off);
-    }
-
     void effectiveNodes()
     {
         const NodeEntry tokyo{u"1"_s, u"Tokyo"_s, {u"P2P"_s}, u"JP"_s, {}, 80, 12};
@@ -222,15 +200,6 @@ private Q_SLOTS:
         answer.splitProfile = request.splitProfile;
         answer.splitProfile.directRegions.removeLast();
         QVERIFY(!moderequest::isShownBy(request, answer));
-    }
-
-    void memoryLog()
-    {
-        for (const char *value : {"0", "yes", "-1", "", "2"}) {
-            qputenv("VANTU_GUI_MEM_LOG", value);
-            QCOMPARE(memorylog::isEnabled(), *value == '2');
-        }
-        qunsetenv("VANTU_GUI_MEM_LOG");
     }
 };
 
