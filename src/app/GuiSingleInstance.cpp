@@ -48,6 +48,7 @@ GuiSingleInstance::Outcome GuiSingleInstance::claimOrActivate(QString *error)
     if (tryListen(error)) {
         return Outcome::Claimed;
     }
+    Q_EMIT aboutToKnock();
     if (notifyRunningInstance(kNotifyTimeout)) {
         return Outcome::Activated;
     }

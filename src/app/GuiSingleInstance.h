@@ -52,6 +52,8 @@ public:
     bool notifyRunningInstance(std::chrono::milliseconds timeout) const;
 
 Q_SIGNALS:
+    /// Somebody else may hold the name and is about to be asked to come forward.
+    void aboutToKnock();
     void activateRequested();
 
 private:

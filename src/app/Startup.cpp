@@ -3,20 +3,31 @@
 #include "CommandLine.h"
 #include "ControlClient.h"
 #include "ControlProtocol.h"
+#include "EmbeddedIcon.h"
 #include "GuiAutostart.h"
 #include "GuiPreferences.h"
 #include "GuiRestartScheduler.h"
 #include "GuiSingleInstance.h"
 #include "Language.h"
+#include "LaunchToken.h"
+#include "MainWindow.h"
+#include "SignalQuit.h"
 #include "TranslationManager.h"
-#include "TrayHostProbe.h"
+#include "TrayHostWatch.h"
 #include "VantuAppShell.h"
+#include "WindowController.h"
+#include "X11Session.h"
 
 #include <QApplication>
-#include <QIcon>
+#include <QEventLoop>
+#include <QSessionManager>
 #include <QTimer>
 
 #include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +35,8 @@ namespace {
 
 /// A daemon that takes longer to answer at start is not waited for.
 constexpr int kLanguageProbeTimeoutMs = 500;
+/// How long a login start waits for the panel.
+constexpr std::chrono::seconds kPanelWait{10};
 
 struct Switches
 {
@@ -45,7 +58,7 @@ void setIdentity()
     QCoreApplication::setApplicationVersion(u"10.4.0+26101701"_s);
     QCoreApplication::setOrganizationName(u"Vantu"_s);
     QGuiApplication::setDesktopFileName(u"com.vantuvpn.vantu"_s);
-    QGuiApplication::setWindowIcon(QIcon(u":/icons/app.png"_s));
+    QGuiApplication::setWindowIcon(embeddedIcon(u":/icons/app.png"_s));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // Remembered from the first call on: after an upgrade in place the running file
     // no longer has the name that a restart needs.
@@ -76,11 +89,19 @@ QString probeLanguage(const QString &socketName)
     return code.isEmpty() ? QString() : language::normalise(code);
 }
 
+/// A write waits for the disk, and hardly any start brings another language.
+void rememberLanguage(GuiPreferences &preferences, const QString &code)
+{
+    if (preferences.lastEffectiveLanguage() != code) {
+        preferences.setLastEffectiveLanguage(code);
+    }
+}
+
 QString chooseLanguage(const QString &socketName, GuiPreferences &preferences)
 {
     QString probed = probeLanguage(socketName);
     if (!probed.isEmpty()) {
-        preferences.setLastEffectiveLanguage(probed);
+        rememberLanguage(preferences, probed);
         return probed;
     }
     const QString last = preferences.lastEffectiveLanguage();
@@ -96,39 +117,12 @@ void loadLanguage(const QString &code, TranslationManager &translations,
         // English must not stand in a mirrored window.
         QGuiApplication::setLayoutDirection(language::layoutDirection(translations.currentCode()));
     }
-    preferences.setLastEffectiveLanguage(translations.currentCode());
+    rememberLanguage(preferences, translations.currentCode());
 }
 
-/// Waits for the panel that a login start may come too early for. Before the shell is
-/// made, since Qt keeps its answer to the icon's first question about the tray. Returns
-/// whether the user launched the program, too, in the meantime.
-bool waitForPanel(GuiSingleInstance &instance)
+/// The name of this program on the user's desktop, or the exit status without it.
+std::optional<int> claimName(GuiSingleInstance &instance, const Switches &switches)
 {
-    bool isActivated = false;
-    const auto listening = QObject::connect(&instance, &GuiSingleInstance::activateRequested,
-                                            &instance, [&isActivated] { isActivated = true; });
-    trayhost::waitUntilRegistered(trayhost::kLoginWait);
-    QObject::disconnect(listening);
-    return isActivated;
-}
-
-} // namespace
-
-StartupResult runVantu(int argc, char **argv, const StartupOptions &options)
-{
-    // One look on every desktop; set before the application so that no other style is
-    // loaded first.
-    QApplication::setStyle(u"Fusion"_s);
-    const QApplication application(argc, argv);
-    setIdentity();
-    const Switches switches = readSwitches(QCoreApplication::arguments());
-    GuiPreferences preferences;
-    reconcileAutostart(preferences);
-    if (switches.autostart && !preferences.launchAtLogin()) {
-        return {};
-    }
-
-    GuiSingleInstance instance(options.instanceName.arg(getuid()));
     QString error;
     const auto outcome =
         switches.restartShowWindow
@@ -136,30 +130,122 @@ StartupResult runVantu(int argc, char **argv, const StartupOptions &options)
                                       GuiSingleInstance::kRestartClaimInterval, &error)
             : instance.claimOrActivate(&error);
     if (outcome == GuiSingleInstance::Outcome::Activated) {
-        return {};
+        return 0;
     }
     if (outcome == GuiSingleInstance::Outcome::Failed) {
         qWarning("failed to start Vantu GUI single-instance server: %s", qUtf8Printable(error));
-        return {.exitStatus = 1};
+        return 1;
     }
+    return std::nullopt;
+}
+
+/// Waits for the panel that a login start may come too early for, since without one and
+/// without a window the program leaves. Returns whether the user launched the program,
+/// too, in the meantime.
+bool waitForPanel(GuiSingleInstance &instance, SignalQuit &endSignals)
+{
+    TrayHostWatch hosts;
+    if (TrayHostWatch::isHostPresent() || !hosts.start()) {
+        return false;
+    }
+    QEventLoop loop;
+    bool isActivated = false;
+    QObject::connect(&instance, &GuiSingleInstance::activateRequested, &loop,
+                     [&isActivated] { isActivated = true; });
+    QObject::connect(&hosts, &TrayHostWatch::hostAppeared, &loop, &QEventLoop::quit);
+    QObject::connect(&endSignals, &SignalQuit::requested, &loop, &QEventLoop::quit);
+    QTimer::singleShot(kPanelWait, &loop, &QEventLoop::quit);
+    loop.exec();
+    return isActivated;
+}
+
+/// What stands in front of all else of the program.
+const QWidget *frontWindow()
+{
+    if (const QWidget *modal = QApplication::activeModalWidget()) {
+        return modal;
+    }
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const auto window = std::find_if(all.begin(), all.end(), [](const QWidget *widget) {
+        return widget->isVisible() && qobject_cast<const MainWindow *>(widget) != nullptr;
+    });
+    return window == all.end() ? nullptr : *window;
+}
+
+/// Whoever launches the program again wants its window, and left that launch's token.
+void comeForward(VantuAppShell &shell, const QString &tokenPath)
+{
+    const LaunchToken token = LaunchToken::take(tokenPath);
+    token.useForNextWindow();
+    shell.activateFromSecondary();
+    if (const QWidget *window = frontWindow()) {
+        x11session::activate(window->winId(), token.startupId());
+    }
+}
+
+/// The login entry alone decides whether the next session starts the program: one that
+/// the session manager starts as well would bring the window forward.
+void stayOutOfSavedSessions(const QApplication &application)
+{
+    const auto never = [](QSessionManager &manager) {
+        manager.setRestartHint(QSessionManager::RestartNever);
+    };
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &application, never);
+    QObject::connect(&application, &QGuiApplication::saveStateRequest, &application, never);
+}
+
+} // namespace
+
+StartupResult runVantu(int argc, char **argv, const StartupOptions &options)
+{
+    const LaunchToken ownToken = LaunchToken::fromEnvironment();
+    // One look on every desktop; set before the application so that no other style is
+    // loaded first.
+    QApplication::setStyle(u"Fusion"_s);
+    const QApplication application(argc, argv);
+    setIdentity();
+    stayOutOfSavedSessions(application);
+    const Switches switches = readSwitches(QCoreApplication::arguments());
+    GuiPreferences preferences;
+    reconcileAutostart(preferences);
+    if (switches.autostart && !preferences.launchAtLogin()) {
+        return {};
+    }
+
+    const QString name = options.instanceName.arg(getuid());
+    const QString tokenPath = LaunchToken::filePath(name);
+    GuiSingleInstance instance(name);
+    QObject::connect(&instance, &GuiSingleInstance::aboutToKnock, &instance,
+                     [&] { ownToken.leave(tokenPath); });
+    if (const auto exitStatus = claimName(instance, switches)) {
+        return {.exitStatus = *exitStatus};
+    }
+    SignalQuit endSignals;
 
     TranslationManager translations;
     loadLanguage(chooseLanguage(options.socketName, preferences), translations, preferences);
 
-    const bool isActivated = switches.autostart && waitForPanel(instance);
+    const bool isActivated = switches.autostart && waitForPanel(instance, endSignals);
+    if (endSignals.isRequested()) {
+        return {};
+    }
     VantuAppShell shell(options.socketName);
     shell.setLoadedLanguage(translations.currentCode());
     shell.setLanguageRestartAllowed(!switches.languageRestart);
     shell.setLoginStartup(switches.autostart && !isActivated);
     GuiRestartScheduler scheduler;
-    QObject::connect(&instance, &GuiSingleInstance::activateRequested, &shell,
-                     &VantuAppShell::activateFromSecondary);
+    const auto activate = [&shell, tokenPath] { comeForward(shell, tokenPath); };
+    QObject::connect(&instance, &GuiSingleInstance::activateRequested, &shell, activate);
     scheduleGUIRestart(scheduler, shell);
     QObject::connect(&shell, &VantuAppShell::exitRequested, &application, &QCoreApplication::quit);
+    QObject::connect(&endSignals, &SignalQuit::requested, &shell, &VantuAppShell::quit);
 
     shell.start();
+    if (shell.windows().windowsCreated() == 0) {
+        LaunchToken::forgetOwn(); // It is too old by the time that a window comes.
+    }
     if (switches.restartShowWindow || isActivated) {
-        QTimer::singleShot(0, &shell, &VantuAppShell::activateFromSecondary);
+        QTimer::singleShot(0, &shell, activate);
     }
     if (switches.restartShowWindow) {
         QTimer::singleShot(0, &shell, &VantuAppShell::refreshLocationsAfterGUIRestart);

@@ -1,6 +1,7 @@
 #include "TrayFace.h"
 
 #include "AppState.h"
+#include "EmbeddedIcon.h"
 #include "MemoryLog.h"
 #include "ModeRequests.h"
 #include "PlainText.h"
@@ -8,6 +9,8 @@
 
 #include <QAction>
 #include <QMenu>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -20,11 +23,10 @@ TrayFace::TrayFace(const AppState &state, TrayLayout layout, QObject *parent)
     , m_nodeMenu(*m_menu.submenu(TrayEntry::NodeMenu), *m_menu.action(TrayEntry::Locations))
     , m_proxyRegions(*m_menu.submenu(TrayEntry::ProxyRegions))
     , m_vpnRegions(*m_menu.submenu(TrayEntry::VpnRegions))
-    , m_iconOn(u":/icons/tray-on.png"_s)
-    , m_iconOff(u":/icons/tray-off.png"_s)
-    , m_icon(m_iconOff)
+    , m_iconOn(embeddedIcon(u":/icons/tray-on.png"_s))
+    , m_iconOff(embeddedIcon(u":/icons/tray-off.png"_s))
 {
-    connect(&m_icon, &QSystemTrayIcon::activated, this, &TrayFace::activated);
+    connect(&m_hosts, &TrayHostWatch::hostAppeared, this, &TrayFace::showIcon);
     connectMenu();
 }
 
@@ -58,17 +60,26 @@ void TrayFace::connectMenu()
 
 void TrayFace::showIcon()
 {
-    if (QSystemTrayIcon::isSystemTrayAvailable()) {
-        m_icon.setContextMenu(&m_menu.root());
-        m_icon.show();
+    if (m_icon) {
+        return; // Qt itself follows a tray that comes back.
     }
+    if (!TrayHostWatch::isTrayAvailable()) {
+        m_hosts.start();
+        return;
+    }
+    m_icon = std::make_unique<QSystemTrayIcon>(m_iconIsOn ? m_iconOn : m_iconOff);
+    connect(m_icon.get(), &QSystemTrayIcon::activated, this, &TrayFace::activated);
+    m_icon->setToolTip(m_shown.toolTip);
+    m_icon->setContextMenu(&m_menu.root());
+    m_icon->show();
+    Q_EMIT iconShown();
 }
 
 void TrayFace::showMessage(const QString &title, const QString &text)
 {
-    if (m_icon.isVisible() && QSystemTrayIcon::supportsMessages()) {
-        m_icon.showMessage(plaintext::messageText(title), plaintext::messageText(text),
-                           QSystemTrayIcon::Information, static_cast<int>(kMessageTime.count()));
+    if (m_icon && QSystemTrayIcon::supportsMessages()) {
+        m_icon->showMessage(plaintext::messageText(title), plaintext::messageText(text),
+                            QSystemTrayIcon::Information, static_cast<int>(kMessageTime.count()));
     }
 }
 
@@ -85,12 +96,15 @@ void TrayFace::update(const TrayCondition &condition)
 
 void TrayFace::updateIcon()
 {
-    if (m_shown.iconOn != m_iconIsOn) {
-        m_iconIsOn = m_shown.iconOn;
-        m_icon.setIcon(m_iconIsOn ? m_iconOn : m_iconOff);
+    const bool wasOn = std::exchange(m_iconIsOn, m_shown.iconOn);
+    if (!m_icon) {
+        return;
     }
-    if (m_icon.toolTip() != m_shown.toolTip) {
-        m_icon.setToolTip(m_shown.toolTip);
+    if (m_iconIsOn != wasOn) {
+        m_icon->setIcon(m_iconIsOn ? m_iconOn : m_iconOff);
+    }
+    if (m_icon->toolTip() != m_shown.toolTip) {
+        m_icon->setToolTip(m_shown.toolTip);
     }
 }
 

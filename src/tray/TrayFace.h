@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TrayHostWatch.h"
 #include "TrayMenu.h"
 #include "TrayMenuState.h"
 #include "TrayMenuWatch.h"
@@ -11,6 +12,7 @@
 #include <QSystemTrayIcon>
 
 #include <chrono>
+#include <memory>
 
 class AppState;
 
@@ -27,7 +29,7 @@ public:
     /// Shows nodes and regions out of `state`, which must outlive it.
     TrayFace(const AppState &state, TrayLayout layout, QObject *parent = nullptr);
 
-    /// Puts the icon into the desktop's tray, if there is one.
+    /// Puts the icon into the desktop's tray, as soon as there is one.
     void showIcon();
     /// Shows a desktop message, if the desktop can.
     void showMessage(const QString &title, const QString &text);
@@ -39,6 +41,8 @@ public:
     void catalogueChanged() { m_planOld = true; }
 
 Q_SIGNALS:
+    /// The desktop's tray has the icon from now on.
+    void iconShown();
     /// Time has passed unseen: call update() now, the menu is about to open.
     void opening();
     void nodeMenuOpening();
@@ -70,7 +74,8 @@ private:
     TrayRegionMenu m_vpnRegions;
     const QIcon m_iconOn;
     const QIcon m_iconOff;
-    QSystemTrayIcon m_icon;
+    TrayHostWatch m_hosts;
+    std::unique_ptr<QSystemTrayIcon> m_icon; ///< None until there is a tray to put it in.
 
     TrayMenuState m_shown; ///< The latest state; the menu lags behind while it is open.
     TrayNodePlan m_plan;

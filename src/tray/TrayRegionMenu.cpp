@@ -2,68 +2,30 @@
 
 #include "ModeRequests.h"
 #include "PlainText.h"
+#include "RegionNames.h"
 #include "TrayMenuText.h"
 
 #include <QAction>
-#include <QLocale>
-#include <QMap>
 #include <QMenu>
 
 #include <algorithm>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-using NamesByCode = QMap<QString, QString>;
-
-bool isRegionCode(const QString &code)
-{
-    return code.size() == 2 && std::all_of(code.begin(), code.end(),
-                                           [](QChar character) { return character.isLetter(); });
-}
-
-void collect(const QList<NodeGroup> &groups, NamesByCode &names)
-{
-    for (const NodeGroup &group : groups) {
-        const QString code = group.code.trimmed().toUpper();
-        if (isRegionCode(code) && !names.contains(code)) {
-            names.insert(code, plaintext::singleLine(group.name));
-        }
-        collect(group.subgroups, names);
-    }
-}
-
-QString regionName(const QString &code, const NamesByCode &names)
-{
-    if (QString name = names.value(code.toUpper()); !name.isEmpty()) {
-        return name;
-    }
-    const auto territory = QLocale::codeToTerritory(code);
-    return territory == QLocale::AnyTerritory ? plaintext::singleLine(code)
-                                              : QLocale::territoryToString(territory);
-}
-
-} // namespace
-
 QList<TrayRegion> trayRegions(const SplitProfile &profile, const NodeGroupsInfo &groups)
 {
-    NamesByCode names;
-    for (const NodeGroupTab &tab : groups.tabs) {
-        collect(tab.groups, names);
-    }
+    const RegionNames names(groups);
     QList<TrayRegion> regions;
     QStringList configured;
     for (const QString &code : moderequest::regionsInForce(profile)) {
         if (!configured.contains(code, Qt::CaseInsensitive)) {
             configured << code;
-            regions << TrayRegion{.code = code, .name = regionName(code, names), .checked = true};
+            regions << TrayRegion{.code = code, .name = names.name(code), .checked = true};
         }
     }
-    for (auto entry = names.cbegin(); entry != names.cend(); ++entry) {
-        if (!configured.contains(entry.key(), Qt::CaseInsensitive)) {
-            regions << TrayRegion{.code = entry.key(), .name = regionName(entry.key(), names)};
+    const QStringList others = names.catalogueCodes();
+    for (const QString &code : others) {
+        if (!configured.contains(code, Qt::CaseInsensitive)) {
+            regions << TrayRegion{.code = code, .name = names.name(code)};
         }
     }
     std::sort(regions.begin(), regions.end(), [](const TrayRegion &one, const TrayRegion &other) {

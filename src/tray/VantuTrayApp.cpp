@@ -95,6 +95,8 @@ void VantuTrayApp::connectStore()
 
 void VantuTrayApp::connectFace()
 {
+    connect(&m_face, &TrayFace::iconShown, this, &VantuTrayApp::update);
+    connect(&m_face, &TrayFace::iconShown, this, &VantuTrayApp::iconShown);
     connect(&m_face, &TrayFace::activated, this, &VantuTrayApp::handleTrayActivated);
     connect(&m_face, &TrayFace::opening, this, &VantuTrayApp::update);
     connect(&m_face, &TrayFace::nodeMenuOpening, this, &VantuTrayApp::handleNodeMenuOpening);

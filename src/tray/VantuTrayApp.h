@@ -45,8 +45,8 @@ public:
                  SharedTheme &theme, QObject *parent = nullptr);
     ~VantuTrayApp() override;
 
-    /// Shows the icon where the desktop has a tray, and begins to poll if the daemon is
-    /// available. Called once, by the shell's start.
+    /// Shows the icon as soon as the desktop has a tray, and begins to poll if the daemon
+    /// is available. Called once, by the shell's start.
     void start();
 
     /// The shell's word on whether the daemon can be used: on becoming available the
@@ -91,6 +91,8 @@ public:
     void recentNodesChanged();
 
 Q_SIGNALS:
+    /// The desktop's tray has the icon from now on.
+    void iconShown();
     void openVantuRequested();
     void openLocationsRequested();
     void accountRequested();
