@@ -61,11 +61,40 @@ void AccountController::fetchUser()
     m_parts.link.send(ControlRequest::FetchUser);
 }
 
+void AccountController::setOpeningRenewal(bool opening)
+{
+    if (m_openingRenewal != opening) {
+        m_openingRenewal = opening;
+        Q_EMIT openingRenewalChanged(opening);
+    }
+}
+
+void AccountController::openRenewal(const QString &lang)
+{
+    if (!m_openingRenewal && m_parts.compatibility.changeGuardPasses()) {
+        setOpeningRenewal(true);
+        m_parts.link.send(ControlRequest::FetchPurchaseURL, lang);
+    }
+}
+
+void AccountController::handlePurchaseURL(const PurchaseURLInfo &info, const QString &error)
+{
+    setOpeningRenewal(false);
+    if (error.isEmpty()) {
+        Q_EMIT renewalLinkReady(QUrl(info.url, QUrl::StrictMode));
+    } else {
+        m_parts.notices.error(error, ShellText::tr("Could not open renewal page"), Page::Account);
+    }
+}
+
 void AccountController::handleLogin(const RuntimeInfo &info, const QString &error)
 {
+    // First, so that an end without it is known for a success.
+    if (!error.isEmpty()) {
+        m_parts.notices.error(error, ShellText::tr("Could not sign in"), Page::Account);
+    }
     setBusy(false);
     if (!error.isEmpty()) {
-        m_parts.notices.error(error, ShellText::tr("Could not sign in"));
         return;
     }
     storeRuntime(info);
@@ -84,7 +113,7 @@ void AccountController::handleLogout(quint64 requestId, const RuntimeInfo &info,
             failure = ShellText::tr("Could not sign out");
         }
         if (m_origin == OperationOrigin::Window) {
-            m_parts.notices.error(failure, failure);
+            m_parts.notices.error(failure, failure, Page::Account);
         }
     } else {
         // An answer still on its way would bring the old account back.

@@ -5,6 +5,7 @@
 #include "TrayOperations.h"
 
 #include <QObject>
+#include <QUrl>
 
 #include <functional>
 
@@ -34,19 +35,27 @@ public:
     explicit AccountController(Parts parts, QObject *parent = nullptr);
 
     bool isBusy() const { return m_busy; }
+    /// The link to the renewal page was asked for.
+    bool isOpeningRenewal() const { return m_openingRenewal; }
 
     /// The password goes to the daemon and is not kept.
     void login(const QString &username, const QString &password, bool rememberMe);
     void logout(OperationOrigin origin);
     void fetchUser();
+    /// Asks the daemon for the link to the renewal page in language `lang`.
+    void openRenewal(const QString &lang);
 
     /// Answers that the link still awaited.
     void handleLogin(const RuntimeInfo &info, const QString &error);
     void handleLogout(quint64 requestId, const RuntimeInfo &info, const QString &error);
     void handleUser(const UserInfo &user, const QString &error);
+    void handlePurchaseURL(const PurchaseURLInfo &info, const QString &error);
 
 Q_SIGNALS:
     void busyChanged(bool busy);
+    void openingRenewalChanged(bool opening);
+    /// The link carries an access token: open it, and do nothing else with it.
+    void renewalLinkReady(const QUrl &link);
     void logoutStarted(quint64 requestId, OperationOrigin origin);
     /// `failure` is the text for the user, empty on success.
     void logoutEnded(quint64 requestId, const RuntimeInfo &info, const QString &failure);
@@ -56,9 +65,11 @@ Q_SIGNALS:
 private:
     bool changeAllowed(OperationOrigin origin);
     void setBusy(bool busy);
+    void setOpeningRenewal(bool opening);
     void storeRuntime(const RuntimeInfo &info);
 
     Parts m_parts;
     OperationOrigin m_origin = OperationOrigin::Window;
     bool m_busy = false;
+    bool m_openingRenewal = false;
 };

@@ -159,9 +159,7 @@ void CatalogController::handleNodes(quint64 requestId, const NodesInfo &nodes, c
     }
     if (!error.isEmpty()) {
         if (wasRefresh) {
-            const QString fallback = ShellText::tr("Could not refresh locations");
-            m_notices.error(error, fallback);
-            Q_EMIT failed(error.trimmed().isEmpty() ? fallback : error);
+            m_notices.error(error, ShellText::tr("Could not refresh locations"), Page::Locations);
         }
         return;
     }

@@ -54,8 +54,6 @@ public:
 Q_SIGNALS:
     /// The groups were answered, well or not.
     void groupsAnswered();
-    /// An update that the user asked for failed; the text is for them.
-    void failed(const QString &message);
     /// A refresh was sent, or the last one was answered.
     void refreshingChanged(bool refreshing);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ServiceRecords.h"
+#include "RequestLink.h"
 
 #include <QObject>
 #include <QTimer>
@@ -10,7 +10,7 @@
 class AppState;
 class GuiPreferences;
 class NoticeSink;
-class RequestLink;
+class ServiceCompatibility;
 
 /// Follows the daemon's interface language: remembers it, and asks once for a
 /// restart of the program when it is not the one that was loaded.
@@ -20,38 +20,52 @@ class LanguageController final : public QObject
     Q_DISABLE_COPY_MOVE(LanguageController)
 
 public:
-    /// `isIdle` tells that no operation runs which a restart would interrupt. All
-    /// arguments must outlive the object.
-    LanguageController(RequestLink &link, AppState &state, NoticeSink &notices,
-                       GuiPreferences &preferences, std::function<bool()> isIdle,
-                       QObject *parent = nullptr);
+    /// What it works with; everything must outlive the object.
+    struct Parts
+    {
+        RequestLink &link;
+        AppState &state;
+        NoticeSink &notices;
+        GuiPreferences &preferences;
+        ServiceCompatibility &compatibility;
+        /// No operation runs which a restart would interrupt.
+        std::function<bool()> isIdle;
+    };
+
+    explicit LanguageController(Parts parts, QObject *parent = nullptr);
+
+    /// A change that the user asked for is on its way.
+    bool isBusy() const { return m_busy; }
 
     void setLoadedLanguage(const QString &code) { m_loaded = code; }
     void setRestartAllowed(bool allowed) { m_restartAllowed = allowed; }
 
     void fetch();
+    /// The user's choice: `source` is "system" or "explicit".
+    void change(const QString &source, const QString &language);
     /// The answer to a language request that the link still awaited.
-    void handleLanguage(const LanguageConfigInfo &info, const QString &error);
+    void handleLanguage(ControlRequest request, const LanguageConfigInfo &info,
+                        const QString &error);
     void handleRestartFailed();
 
 Q_SIGNALS:
+    void busyChanged(bool busy);
     /// At most once in a process.
     void restartRequested();
 
 private:
     void follow(const QString &effectiveLanguage);
+    void setBusy(bool busy);
     void tryRestart();
     void adoptSystemLanguage(const LanguageConfigInfo &info);
 
-    RequestLink &m_link;
-    AppState &m_state;
-    NoticeSink &m_notices;
-    GuiPreferences &m_preferences;
-    std::function<bool()> m_isIdle;
+    Parts m_parts;
     QString m_loaded;
     QString m_wanted;
     bool m_restartAllowed = false;
     bool m_restartRequested = false;
     bool m_systemLanguageTold = false;
+    bool m_busy = false;
+    bool m_changed = false; ///< The user chose a language in this process.
     QTimer m_retryTimer;
 };

@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <optional>
+
 /// Where the shell's concerns drop what the user should read. Whoever owns the
 /// window shows it; without a window it is lost, by design.
 class NoticeSink final : public QObject
@@ -18,11 +20,14 @@ public:
     /// Stays until the user dismisses it.
     static constexpr int kUntilDismissed = 0;
 
-    /// `message` may be a daemon's text; when it is blank, `fallback` is shown.
-    void error(const QString &message, const QString &fallback)
+    /// `message` may be a daemon's text; when it is blank, `fallback` is shown, and
+    /// without one the words that the page has for it. With a `page`, the text also
+    /// stays there until the page's next request.
+    void error(const QString &message, const QString &fallback,
+               std::optional<Page> page = std::nullopt)
     {
         const QString trimmed = message.trimmed();
-        show(trimmed.isEmpty() ? fallback : trimmed, MainWindow::NoticeKind::Error);
+        Q_EMIT failed(trimmed.isEmpty() ? fallback : trimmed, page);
     }
 
     void show(const QString &message, MainWindow::NoticeKind kind, int timeoutMs = kTimeoutMs)
@@ -32,6 +37,8 @@ public:
 
 Q_SIGNALS:
     void noticeRequested(const QString &message, MainWindow::NoticeKind kind, int timeoutMs);
+    /// An operation failed that belongs to `page`, or to none.
+    void failed(const QString &message, std::optional<Page> page);
     /// The user must see what follows: bring the window forward first.
     void attentionRequested();
 };

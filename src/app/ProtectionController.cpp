@@ -129,19 +129,21 @@ void ProtectionController::handleMode(ControlRequest request, const ModeInfo &mo
 {
     const bool enableNext = std::exchange(m_enableAfterMode, false);
     QString failure;
+    Page page = Page::Mode;
     switch (request) {
     case ControlRequest::SetLocalNetworkPreference:
         failure = ShellText::tr("Could not update local network");
         break;
     case ControlRequest::SetSystemProxyPreference:
         failure = ShellText::tr("Could not update system proxy");
+        page = Page::Settings;
         break;
     default:
         failure = ShellText::tr("Could not switch mode");
         break;
     }
     if (!error.isEmpty()) {
-        m_parts.notices.error(error, failure);
+        m_parts.notices.error(error, failure, page);
         setBusy(false);
         return;
     }
@@ -149,7 +151,7 @@ void ProtectionController::handleMode(ControlRequest request, const ModeInfo &mo
     runtime.mode = mode;
     m_parts.state.setRuntime(runtime);
     if (request == ControlRequest::SetMode && !moderequest::isShownBy(m_requestedMode, mode)) {
-        m_parts.notices.error({}, failure);
+        m_parts.notices.error({}, failure, page);
     } else if (enableNext) {
         m_enablePending = false;
         sendKillSwitchEnabled(true);
@@ -161,12 +163,17 @@ void ProtectionController::handleMode(ControlRequest request, const ModeInfo &mo
 void ProtectionController::handleKillSwitch(ControlRequest request, const KillSwitchInfo &info,
                                             const QString &error)
 {
+    const bool isChange = request != ControlRequest::FetchKillSwitch;
+    if (isChange) {
+        // A read that was sent before may tell of the time before.
+        m_parts.link.forget(ControlRequest::FetchKillSwitch);
+    }
     if (error.isEmpty()) {
         m_parts.state.setKillSwitch(info);
-    } else if (request != ControlRequest::FetchKillSwitch) {
-        m_parts.notices.error(error, ShellText::tr("Could not update kill switch"));
+    } else if (isChange) {
+        m_parts.notices.error(error, ShellText::tr("Could not update kill switch"), Page::Settings);
     }
-    if (request != ControlRequest::FetchKillSwitch) {
+    if (isChange) {
         setBusy(false);
     }
 }

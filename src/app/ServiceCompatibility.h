@@ -44,6 +44,8 @@ public:
 
     /// The first check, once.
     void start();
+    /// Asks anew; what is known holds until the answer.
+    void check();
     /// The answer to a version request that the link still awaited.
     void handleVersion(const VersionInfo &info, const QString &error);
     /// Any status answer that passed by, whoever asked for it.
@@ -61,7 +63,6 @@ Q_SIGNALS:
     void serviceFound();
 
 private:
-    void check();
     void setState(State state);
     void refuse();
 

@@ -1,36 +1,21 @@
 #include "UpdateController.h"
 
 #include "AppState.h"
-#include "GuiPreferences.h"
 #include "NoticeSink.h"
-#include "RequestLink.h"
 #include "ShellText.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <chrono>
+#include <utility>
 
-namespace {
-
-/// The answer names a release well enough to offer it.
-bool isComplete(const UpdateInfo &info)
-{
-    return info.updateAvailable && qRound64(info.versionNum) >= 1 && !info.versionCode.isEmpty();
-}
-
-} // namespace
-
-UpdateController::UpdateController(RequestLink &link, AppState &state, NoticeSink &notices,
-                                   GuiPreferences &preferences, std::function<qint64()> nowSeconds,
-                                   QObject *parent)
+UpdateController::UpdateController(Parts parts, QObject *parent)
     : QObject(parent)
-    , m_link(link)
-    , m_state(state)
-    , m_notices(notices)
-    , m_preferences(preferences)
-    , m_now(std::move(nowSeconds))
-    , m_version(QCoreApplication::applicationVersion())
-    , m_forced(preferences.updateBookkeeping(m_version).forceUpgrade)
+    , m_parts(std::move(parts))
+    , m_schedule(m_parts.preferences, m_parts.nowSeconds, QCoreApplication::applicationVersion())
+    , m_download({m_parts.link, m_parts.state, m_parts.notices, m_schedule.version(),
+                  m_parts.openInstaller})
 {
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::VeryCoarseTimer);
@@ -42,103 +27,161 @@ UpdateController::UpdateController(RequestLink &link, AppState &state, NoticeSin
             checkIfDue();
         }
     });
+    connect(&m_download, &UpdateDownload::changed, this, &UpdateController::downloadChanged);
+    connect(&m_download, &UpdateDownload::failed, this, &UpdateController::tellFailure);
+    connect(&m_download, &UpdateDownload::noteChanged, this, &UpdateController::noteChanged);
+    connect(&m_download, &UpdateDownload::waitingChanged, this, &UpdateController::waitingChanged);
+    connect(&m_download, &UpdateDownload::exitRequested, this, &UpdateController::exitRequested);
 }
 
 void UpdateController::start()
 {
-    arm(m_forced ? 0 : kFirstCheckDelayMs);
-}
-
-qint64 UpdateController::secondsUntilDue() const
-{
-    const UpdateBookkeeping book = m_preferences.updateBookkeeping(m_version);
-    qint64 last = 0;
-    qint64 interval = 0;
-    if (book.lastAttemptAt >= 1) {
-        last = book.lastAttemptAt;
-        interval = kRetrySeconds;
-    } else if (book.lastSuccessfulCheckAt >= 1) {
-        last = book.lastSuccessfulCheckAt;
-        interval = kIntervalSeconds;
-    }
-    const qint64 now = m_now();
-    // A stamp from the future means that the clock was wrong once.
-    if (last > now) {
-        return 0;
-    }
-    return std::max<qint64>(0, last + interval - now);
+    m_timer.start(std::chrono::milliseconds(isForced() ? 0 : kFirstCheckDelayMs));
 }
 
 void UpdateController::checkIfDue()
 {
-    if (m_link.isPending(ControlRequest::CheckUpdate) || m_timer.isActive()) {
+    if (m_parts.link.isPending(ControlRequest::CheckUpdate) || m_timer.isActive()) {
         return;
     }
     const qint64 seconds = secondsUntilDue();
     if (seconds == 0) {
         check();
     } else {
-        arm(std::min(seconds, kSliceSeconds) * 1000);
+        m_timer.start(std::chrono::seconds(std::min(seconds, kSliceSeconds)));
+    }
+}
+
+void UpdateController::checkNow()
+{
+    check();
+    if (!std::exchange(m_asked, true)) {
+        Q_EMIT checkingChanged(true);
     }
 }
 
 void UpdateController::check()
 {
     m_timer.stop();
-    if (m_link.isPending(ControlRequest::CheckUpdate)) {
+    if (m_parts.link.isPending(ControlRequest::CheckUpdate)) {
         return;
     }
     m_firstCheckPending = false;
-    UpdateBookkeeping book = m_preferences.updateBookkeeping(m_version);
-    book.lastAttemptAt = m_now();
-    m_preferences.setUpdateBookkeeping(m_version, book);
-    m_link.send(ControlRequest::CheckUpdate, m_version);
+    m_schedule.noteAttempt();
+    m_parts.link.send(ControlRequest::CheckUpdate, m_schedule.version());
 }
 
 void UpdateController::handleUpdate(const UpdateInfo &info, const QString &error)
 {
-    if (error.isEmpty()) {
-        UpdateBookkeeping book = m_preferences.updateBookkeeping(m_version);
-        book.lastSuccessfulCheckAt = m_now();
-        // Every success is an attempt too; kept, it would hide the daily rule.
-        book.lastAttemptAt = 0;
-        m_preferences.setUpdateBookkeeping(m_version, book);
-        m_state.setUpdate(info);
-        setForced(info.updateAvailable && info.isForceUpgrade);
-        if (m_forced && isComplete(info)) {
-            Q_EMIT requiredUpdateKnown(info);
-        }
+    const bool asked = std::exchange(m_asked, false);
+    if (asked) {
+        Q_EMIT checkingChanged(false);
     }
+    if (error.isEmpty()) {
+        store(info, asked);
+    } else if (asked) {
+        m_parts.notices.error(error, ShellText::tr("Could not check for updates"), Page::Settings);
+    }
+    m_download.noteCheckEnded();
     checkIfDue();
+}
+
+void UpdateController::store(const UpdateInfo &info, bool asked)
+{
+    const bool wasOffered = m_parts.state.update().updateAvailable;
+    const bool wasForced = isForced();
+    m_schedule.noteSuccess(info.updateAvailable && info.isForceUpgrade);
+    m_parts.state.setUpdate(info);
+    if (info.updateAvailable) {
+        announce(info, asked, wasForced);
+        if (std::exchange(m_adoptionPending, false)) {
+            m_download.poll();
+        }
+        return;
+    }
+    if (wasOffered) {
+        Q_EMIT withdrawn();
+    }
+    if (asked) {
+        m_parts.notices.show(ShellText::tr("Vantu is up to date"), MainWindow::NoticeKind::Success);
+    }
+}
+
+void UpdateController::announce(const UpdateInfo &info, bool asked, bool wasForced)
+{
+    if (isForced() && updateflow::offeredVersionNum(info) == 0) {
+        // A gate that no download opens would only lock the user out.
+        if (asked) {
+            m_download.tell(updateflow::Note::UpdateUnknown);
+        }
+        return;
+    }
+    if (asked || m_schedule.isNewsworthy(info)) {
+        m_schedule.noteAnnounced(info);
+        offer(info);
+    } else if (wasForced) {
+        // The gate must not outlive its reason, though the release is no news.
+        Q_EMIT withdrawn();
+    }
+}
+
+void UpdateController::offer(const UpdateInfo &info)
+{
+    Q_EMIT offered(info);
+    // The dialog may be a new one that knows nothing of a download under way.
+    m_download.repeat();
+}
+
+void UpdateController::tellFailure()
+{
+    // A download of an earlier run, which nobody was shown in this one, may fail too.
+    if (m_parts.state.update().updateAvailable) {
+        offer(m_parts.state.update());
+    } else {
+        Q_EMIT downloadFailed();
+    }
+}
+
+void UpdateController::startDownload()
+{
+    m_download.start();
+}
+
+void UpdateController::cancelDownload()
+{
+    m_download.cancel();
+}
+
+void UpdateController::pollDownload()
+{
+    m_download.poll();
+}
+
+void UpdateController::setDialogVisible(bool visible)
+{
+    m_download.setWatched(visible);
+}
+
+void UpdateController::handleDownload(ControlRequest request, const GUIUpdateDownloadInfo &info,
+                                      const QString &error)
+{
+    m_download.handleAnswer(request, info, error);
 }
 
 bool UpdateController::connectAllowed()
 {
-    if (!m_forced) {
+    if (!isForced()) {
         return true;
     }
-    Q_EMIT m_notices.attentionRequested();
-    if (isComplete(m_state.update())) {
-        Q_EMIT requiredUpdateKnown(m_state.update());
+    Q_EMIT m_parts.notices.attentionRequested();
+    const UpdateInfo &info = m_parts.state.update();
+    if (info.isForceUpgrade && updateflow::offeredVersionNum(info) > 0) {
+        offer(info);
     } else {
         check();
-        m_notices.show(ShellText::tr("A required Vantu update is being checked before connecting."),
-                       MainWindow::NoticeKind::Warning);
+        m_parts.notices.show(
+            ShellText::tr("A required Vantu update is being checked before connecting."),
+            MainWindow::NoticeKind::Warning);
     }
     return false;
-}
-
-void UpdateController::setForced(bool forced)
-{
-    m_forced = forced;
-    UpdateBookkeeping book = m_preferences.updateBookkeeping(m_version);
-    if (book.forceUpgrade != forced) {
-        book.forceUpgrade = forced;
-        m_preferences.setUpdateBookkeeping(m_version, book);
-    }
-}
-
-void UpdateController::arm(qint64 delayMs)
-{
-    m_timer.start(std::chrono::milliseconds(delayMs));
 }

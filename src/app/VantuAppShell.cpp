@@ -14,7 +14,10 @@
 #include "RecentActivityStore.h"
 #include "RuntimeFacts.h"
 #include "ServiceCompatibility.h"
+#include "SettingsController.h"
 #include "SharedTheme.h"
+#include "SplitRulesController.h"
+#include "TrayHostWatch.h"
 #include "UpdateController.h"
 #include "VantuTrayApp.h"
 #include "WindowController.h"
@@ -22,7 +25,6 @@
 #include <QDateTime>
 #include <QEvent>
 #include <QGuiApplication>
-#include <QSystemTrayIcon>
 #include <QTimer>
 
 VantuAppShell::VantuAppShell(const QString &socketName, std::unique_ptr<GuiPreferences> preferences)
@@ -54,8 +56,9 @@ void VantuAppShell::makeConcerns()
 {
     const auto operationAllowed = [this] { return m_tray->guardPasses(); };
     m_compatibility = std::make_unique<ServiceCompatibility>(m_link, *m_state, *m_notices);
-    m_updates = std::make_unique<UpdateController>(m_link, *m_state, *m_notices, *m_preferences,
-                                                   &QDateTime::currentSecsSinceEpoch);
+    m_updates = std::make_unique<UpdateController>(UpdateController::Parts{
+        m_link, *m_state, *m_notices, *m_preferences, &QDateTime::currentSecsSinceEpoch,
+        [this](const QString &path) { return m_windows->launchFile(path); }});
     m_connection = std::make_unique<ConnectController>(ConnectController::Parts{
         m_link, *m_state, *m_notices, *m_compatibility, *m_updates, operationAllowed});
     m_catalog = std::make_unique<CatalogController>(m_link, *m_state, *m_notices, *m_compatibility);
@@ -66,145 +69,13 @@ void VantuAppShell::makeConcerns()
         m_link, *m_state, *m_notices, *m_compatibility, operationAllowed});
     m_account = std::make_unique<AccountController>(
         AccountController::Parts{m_link, *m_state, *m_notices, *m_compatibility, operationAllowed});
-    m_language = std::make_unique<LanguageController>(m_link, *m_state, *m_notices, *m_preferences,
-                                                      [this] { return isIdle(); });
-}
-
-void VantuAppShell::connectWorkers()
-{
-    using Shell = VantuAppShell;
-    using Worker = ControlWorker;
-    connect(&m_link.worker(WorkerLane::Reads), &Worker::statusFinished, this, &Shell::noteStatus);
-    // Which worker carries a request is the link's business, so that every answer of
-    // every worker is listened to.
-    for (ControlWorker *worker : m_pool->workers()) {
-        connect(worker, &Worker::statusFinished, this, &Shell::handleWindowStatusFinished);
-        connect(worker, &Worker::versionFinished, this, &Shell::handleWindowVersionFinished);
-        connect(worker, &Worker::apiURLFinished, this, &Shell::handleWindowAPIURLFinished);
-        connect(worker, &Worker::languageFinished, this, &Shell::handleWindowLanguageFinished);
-        connect(worker, &Worker::updateFinished, this, &Shell::handleWindowUpdateFinished);
-        connect(worker, &Worker::userFinished, this, &Shell::handleWindowUserFinished);
-        connect(worker, &Worker::nodesFinished, this, &Shell::handleWindowNodesFinished);
-        connect(worker, &Worker::nodeGroupsFinished, this, &Shell::handleWindowNodeGroupsFinished);
-        connect(worker, &Worker::configPathsFinished, this,
-                &Shell::handleWindowConfigPathsFinished);
-        connect(worker, &Worker::killSwitchFinished, this, &Shell::handleWindowKillSwitchFinished);
-        connect(worker, &Worker::connectFinished, this, &Shell::handleWindowConnectFinished);
-        connect(worker, &Worker::disconnectFinished, this, &Shell::handleWindowDisconnectFinished);
-        connect(worker, &Worker::loginFinished, this, &Shell::handleWindowLoginFinished);
-        connect(worker, &Worker::logoutFinished, this, &Shell::handleWindowLogoutFinished);
-        connect(worker, &Worker::modeFinished, this, &Shell::handleWindowModeFinished);
-    }
-    // Last, so that the store holds the answer already.
-    connect(&m_link.worker(WorkerLane::Reads), &Worker::nodesFinished, this, &Shell::noteNodes);
-}
-
-void VantuAppShell::connectTray()
-{
-    using Shell = VantuAppShell;
-    using Tray = VantuTrayApp;
-    VantuTrayApp *tray = m_tray.get();
-    WindowController *windows = m_windows.get();
-    connect(tray, &Tray::openVantuRequested, windows, &WindowController::showOrRaise);
-    connect(tray, &Tray::openLocationsRequested, windows, &WindowController::showLocations);
-    connect(tray, &Tray::accountRequested, windows, &WindowController::showAccount);
-    connect(tray, &Tray::openKillSwitchSettingsRequested, windows, &WindowController::showSettings);
-    connect(tray, &Tray::logoutRequested, this, &Shell::logoutAccountFromTray);
-    connect(tray, &Tray::connectRuntimeRequested, this, &Shell::connectRuntimeFromTray);
-    connect(tray, &Tray::cancelConnectRequested, this, &Shell::cancelConnectFromTray);
-    connect(tray, &Tray::disconnectRuntimeRequested, this, &Shell::disconnectRuntimeFromTray);
-    connect(tray, &Tray::connectNodeRequested, this, &Shell::connectNodeFromTray);
-    connect(tray, &Tray::switchToAutoAndEnableKillSwitchRequested, this,
-            &Shell::switchToAutoAndEnableKillSwitch);
-    connect(tray, &Tray::chooseModeForKillSwitchRequested, this, &Shell::chooseModeForKillSwitch);
-    connect(tray, &Tray::quitRequested, this, &Shell::quit);
-    // Follows every change that the tray made itself.
-    connect(tray, &Tray::statusPolled, this,
-            [this] { m_protection->resumePendingKillSwitchEnable(); });
-}
-
-void VantuAppShell::connectWindows()
-{
-    using Shell = VantuAppShell;
-    using Windows = WindowController;
-    WindowController *windows = m_windows.get();
-    connect(windows, &Windows::connectRuntimeRequested, this, &Shell::connectRuntime);
-    connect(windows, &Windows::cancelConnectRequested, this, &Shell::cancelConnect);
-    connect(windows, &Windows::disconnectRuntimeRequested, this, &Shell::disconnectRuntime);
-    connect(windows, &Windows::connectNodeRequested, this, &Shell::connectNode);
-    connect(windows, &Windows::connectSmartRequested, this, &Shell::connectSmart);
-    connect(windows, &Windows::setModeRequested, this, &Shell::setModePreference);
-    connect(windows, &Windows::setLocalNetworkRequested, this, &Shell::setLocalNetworkPreference);
-    connect(windows, &Windows::setSystemProxyRequested, this,
-            &Shell::setSettingsSystemProxyPreference);
-    connect(windows, &Windows::setKillSwitchEnabledRequested, this,
-            &Shell::setSettingsKillSwitchEnabled);
-    connect(windows, &Windows::setKillSwitchModeRequested, this, &Shell::setSettingsKillSwitchMode);
-    connect(windows, &Windows::switchToAutoAndEnableKillSwitchRequested, this,
-            &Shell::switchToAutoAndEnableKillSwitch);
-    connect(windows, &Windows::chooseModeForKillSwitchRequested, this,
-            &Shell::chooseModeForKillSwitch);
-    connect(windows, &Windows::modePageLeft, this, &Shell::cancelPendingKillSwitchEnable);
-    connect(windows, &Windows::setNodeFavoriteRequested, this, &Shell::setLocationFavorite);
-    connect(windows, &Windows::showingPlacesChanged, m_pings.get(), &NodePingPoll::setWatched);
-    connect(windows, &Windows::refreshLocationsRequested, this, &Shell::refreshLocations);
-    connect(windows, &Windows::loginRequested, this, &Shell::loginAccount);
-    connect(windows, &Windows::logoutRequested, this, &Shell::logoutAccount);
-    connect(windows, &Windows::recentConnectionsCleared, m_tray.get(),
-            &VantuTrayApp::recentNodesChanged);
-    // Queued, because a window can't be closed for good while it refuses to close.
-    connect(windows, &Windows::quitRequested, this, &Shell::quit, Qt::QueuedConnection);
-    connect(windows, &Windows::forceUpdateExitRequested, this, &Shell::quit);
-    // Sees every end of the event loop come, whoever asked for it.
-    qApp->installEventFilter(this);
-}
-
-void VantuAppShell::connectConcerns()
-{
-    using Shell = VantuAppShell;
-    connect(m_notices.get(), &NoticeSink::noticeRequested, m_windows.get(),
-            &WindowController::showNotice);
-    connect(m_notices.get(), &NoticeSink::attentionRequested, m_windows.get(),
-            &WindowController::showOrRaise);
-
-    connect(m_compatibility.get(), &ServiceCompatibility::stateChanged, this, [this] {
-        m_tray->setDaemonAvailable(m_compatibility->isAvailable(), m_compatibility->reason());
-        publishAvailability();
-    });
-    connect(m_compatibility.get(), &ServiceCompatibility::serviceFound, this, &Shell::refetchAll);
-
-    connect(m_connection.get(), &ConnectController::started, this, &Shell::handleConnectStarted);
-    connect(m_connection.get(), &ConnectController::ended, this, &Shell::handleConnectEnded);
-
-    connect(m_catalog.get(), &CatalogController::failed, m_windows.get(),
-            &WindowController::showLocationsError);
-    connect(m_catalog.get(), &CatalogController::refreshingChanged, m_windows.get(),
-            &WindowController::setRefreshing);
-    connect(m_favorites.get(), &FavoriteController::unconfirmedChanged, m_windows.get(),
-            &WindowController::setUnconfirmedFavorites);
-
-    connect(m_protection.get(), &ProtectionController::busyChanged, this,
-            &Shell::publishExternalBusy);
-    connect(m_protection.get(), &ProtectionController::modePageRequested, m_windows.get(),
-            &WindowController::showModePage);
-
-    connect(m_account.get(), &AccountController::busyChanged, this, &Shell::publishExternalBusy);
-    connect(m_account.get(), &AccountController::logoutStarted, this,
-            [this](quint64 requestId, OperationOrigin origin) {
-                m_tray->logoutStarted(requestId, origin);
-            });
-    connect(m_account.get(), &AccountController::logoutEnded, m_tray.get(),
-            &VantuTrayApp::handleLogoutFinished);
-    connect(m_account.get(), &AccountController::accountChanged, m_catalog.get(),
-            &CatalogController::fetch);
-
-    connect(m_language.get(), &LanguageController::restartRequested, this,
-            &Shell::restartRequested);
-    connect(m_updates.get(), &UpdateController::requiredUpdateKnown, this, [this] {
-        m_notices->show(
-            QCoreApplication::translate("UpdateDialog", "A required update is available"),
-            MainWindow::NoticeKind::Warning, NoticeSink::kUntilDismissed);
-    });
+    m_language = std::make_unique<LanguageController>(
+        LanguageController::Parts{m_link, *m_state, *m_notices, *m_preferences, *m_compatibility,
+                                  [this] { return isIdle(); }});
+    m_settings =
+        std::make_unique<SettingsController>(m_link, *m_state, *m_notices, *m_compatibility);
+    m_splitRules =
+        std::make_unique<SplitRulesController>(m_link, *m_state, *m_notices, *m_compatibility);
 }
 
 void VantuAppShell::setLoadedLanguage(const QString &code)
@@ -219,7 +90,7 @@ void VantuAppShell::setLanguageRestartAllowed(bool allowed)
 
 void VantuAppShell::start()
 {
-    const bool tray = QSystemTrayIcon::isSystemTrayAvailable();
+    const bool tray = TrayHostWatch::isTrayAvailable();
     if (!tray && m_loginStartup && !m_preferences->showOnLaunch()) {
         // Neither an icon nor a window: nobody could ever reach this process.
         QTimer::singleShot(0, this, &VantuAppShell::exitRequested);
@@ -254,7 +125,7 @@ bool VantuAppShell::isIdle() const
 {
     // The tray also knows of the changes that it makes by itself.
     return !m_connection->isBusy() && !m_protection->isBusy() && !m_account->isBusy() &&
-           m_tray->guardPasses();
+           !m_settings->isBusy() && m_tray->guardPasses();
 }
 
 void VantuAppShell::noteStatus(quint64 requestId, const RuntimeInfo &info,
@@ -308,9 +179,35 @@ void VantuAppShell::refetchAll()
     if (m_catalog->isHeld()) {
         m_catalog->fetch();
     }
-    m_link.send(ControlRequest::FetchConfigPaths);
-    m_link.send(ControlRequest::FetchAPIURLConfig);
+    m_settings->fetch(false);
     m_language->fetch();
+}
+
+void VantuAppShell::refetchSettings()
+{
+    // A daemon that is away tells it all when it is back.
+    if (!m_compatibility->isAvailable() || !m_statusError.isEmpty()) {
+        return;
+    }
+    m_settings->fetch(true);
+    m_language->fetch();
+    if (!m_protection->isBusy()) {
+        m_link.send(ControlRequest::FetchKillSwitch);
+    }
+}
+
+void VantuAppShell::publishActivity()
+{
+    OperationActivity activity;
+    activity.changingMode = m_protection->isBusy();
+    activity.changingSettings =
+        m_protection->isBusy() || m_settings->isBusy() || m_language->isBusy();
+    activity.checkingUpdate = m_checkingUpdate;
+    activity.signingInOrOut = m_account->isBusy();
+    activity.openingRenewal = m_account->isOpeningRenewal();
+    activity.loadingSplitRules = m_splitRules->isLoading();
+    activity.refreshingLocations = m_refreshingLocations;
+    m_windows->setActivity(activity);
 }
 
 void VantuAppShell::handleConnectStarted(ConnectController::Kind kind, quint64 requestId,

@@ -21,7 +21,9 @@ class NoticeSink;
 class ProtectionController;
 class RecentActivityStore;
 class ServiceCompatibility;
+class SettingsController;
 class SharedTheme;
+class SplitRulesController;
 class UpdateController;
 class VantuTrayApp;
 class WindowController;
@@ -85,15 +87,34 @@ public Q_SLOTS:
     void connectNodeFromTray(const QString &nodeID, const QString &label);
     void connectSmart(const QString &selector);
     void setLocationFavorite(const QString &nodeID, bool favorite);
+    void refreshModeSplitRules();
+    void importModeSplitRules(const QString &kind, const QString &content);
+    void openLogs();
+    void refreshConfigPaths();
+    void setSettingsAPIURL(const QString &apiURL);
+    void resetSettingsAPIURL();
+    void setSettingsAutoConnect(const QString &value);
+    void setSettingsLanguage(const QString &source, const QString &language);
+    void checkSettingsUpdate();
+    void startGUIUpdateDownload();
+    void cancelGUIUpdateDownload();
+    void pollGUIUpdateDownload();
     void setSettingsKillSwitchEnabled(bool enabled);
     void setSettingsKillSwitchMode(const QString &mode);
     void switchToAutoAndEnableKillSwitch();
     void chooseModeForKillSwitch();
     void cancelPendingKillSwitchEnable();
+    void setSettingsProxyListeners(const QString &socksAddress, const QString &httpAddress);
+    void setSettingsSplitDNSLocal(const QStringList &servers);
+    void setSettingsSplitDNSPolicy(const QString &policy);
+    void clearSettingsSplitDNSLocal();
+    void resetSettingsSplitDNS();
+    void repairSettingsDiagnostics();
     void setSettingsSystemProxyPreference(const QString &value);
     void loginAccount(const QString &username, const QString &password, bool rememberMe);
     void logoutAccount();
     void logoutAccountFromTray();
+    void requestPurchaseURL(const QString &lang);
     void pollWindowNodePing();
     void pollWindowCatalogRefresh();
 
@@ -114,9 +135,23 @@ public Q_SLOTS:
                                      const QString &errorMessage);
     void handleWindowAPIURLFinished(quint64 requestId, const APIURLConfigInfo &info,
                                     const QString &errorMessage);
+    void handleWindowAutoConnectFinished(quint64 requestId, const AutoConnectConfigInfo &info,
+                                         const QString &errorMessage);
     void handleWindowLanguageFinished(quint64 requestId, const LanguageConfigInfo &info,
                                       const QString &errorMessage);
     void handleWindowUpdateFinished(quint64 requestId, const UpdateInfo &info,
+                                    const QString &errorMessage);
+    void handleGUIUpdateDownloadFinished(quint64 requestId, const GUIUpdateDownloadInfo &info,
+                                         const QString &errorMessage);
+    void handleWindowProxyListenFinished(quint64 requestId, const ProxyListenResultInfo &info,
+                                         const QString &errorMessage);
+    void handleWindowSplitDNSFinished(quint64 requestId, const SplitDNSInfo &info,
+                                      const QString &errorMessage);
+    void handleWindowSplitRulesFinished(quint64 requestId, const SplitRulesInfo &info,
+                                        const QString &errorMessage);
+    void handleWindowSplitRuleImportFinished(quint64 requestId, const SplitRuleMutationInfo &info,
+                                             const QString &errorMessage);
+    void handleWindowRepairFinished(quint64 requestId, const RepairResultInfo &info,
                                     const QString &errorMessage);
     void handleWindowConfigPathsFinished(quint64 requestId, const ConfigPaths &info,
                                          const QString &errorMessage);
@@ -128,6 +163,8 @@ public Q_SLOTS:
                                     const QString &errorMessage);
     void handleWindowUserFinished(quint64 requestId, const UserInfo &info,
                                   const QString &errorMessage);
+    void handleWindowPurchaseURLFinished(quint64 requestId, const PurchaseURLInfo &info,
+                                         const QString &errorMessage);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -137,12 +174,17 @@ private:
     void connectWorkers();
     void connectTray();
     void connectWindows();
+    void connectSettings();
     void connectConcerns();
+    void connectBusyConcerns();
+    void connectUpdates();
 
     void noteStatus(quint64 requestId, const RuntimeInfo &info, const QString &errorMessage);
     void noteNodes(quint64 requestId, const NodesInfo &nodes, const QString &errorMessage);
     void publishAvailability();
     void publishExternalBusy();
+    void publishActivity();
+    void refetchSettings();
     void refetchAll();
     void handleConnectStarted(ConnectController::Kind kind, quint64 requestId,
                               OperationOrigin origin, const QString &label);
@@ -171,8 +213,12 @@ private:
     std::unique_ptr<ProtectionController> m_protection;
     std::unique_ptr<AccountController> m_account;
     std::unique_ptr<LanguageController> m_language;
+    std::unique_ptr<SettingsController> m_settings;
+    std::unique_ptr<SplitRulesController> m_splitRules;
 
     bool m_loginStartup = false;
     bool m_statusReceived = false;
+    bool m_refreshingLocations = false;
+    bool m_checkingUpdate = false;
     QString m_statusError;
 };

@@ -8,6 +8,8 @@
 #include "NodePingPoll.h"
 #include "ProtectionController.h"
 #include "ServiceCompatibility.h"
+#include "SettingsController.h"
+#include "SplitRulesController.h"
 #include "UpdateController.h"
 #include "VantuAppShell.h"
 #include "WindowController.h"
@@ -98,6 +100,66 @@ void VantuAppShell::setLocationFavorite(const QString &nodeID, bool favorite)
     m_favorites->setFavorite(nodeID, favorite);
 }
 
+void VantuAppShell::refreshModeSplitRules()
+{
+    m_splitRules->fetch();
+}
+
+void VantuAppShell::importModeSplitRules(const QString &kind, const QString &content)
+{
+    m_splitRules->import(kind, content);
+}
+
+void VantuAppShell::openLogs()
+{
+    m_settings->openLogs();
+}
+
+void VantuAppShell::refreshConfigPaths()
+{
+    m_settings->fetchConfigPaths(true);
+}
+
+void VantuAppShell::setSettingsAPIURL(const QString &apiURL)
+{
+    m_settings->setAPIURL(apiURL);
+}
+
+void VantuAppShell::resetSettingsAPIURL()
+{
+    m_settings->resetAPIURL();
+}
+
+void VantuAppShell::setSettingsAutoConnect(const QString &value)
+{
+    m_settings->setAutoConnect(value);
+}
+
+void VantuAppShell::setSettingsLanguage(const QString &source, const QString &language)
+{
+    m_language->change(source, language);
+}
+
+void VantuAppShell::checkSettingsUpdate()
+{
+    m_updates->checkNow();
+}
+
+void VantuAppShell::startGUIUpdateDownload()
+{
+    m_updates->startDownload();
+}
+
+void VantuAppShell::cancelGUIUpdateDownload()
+{
+    m_updates->cancelDownload();
+}
+
+void VantuAppShell::pollGUIUpdateDownload()
+{
+    m_updates->pollDownload();
+}
+
 void VantuAppShell::setSettingsKillSwitchEnabled(bool enabled)
 {
     m_protection->setKillSwitchEnabled(enabled);
@@ -123,6 +185,37 @@ void VantuAppShell::cancelPendingKillSwitchEnable()
     m_protection->cancelPendingKillSwitchEnable();
 }
 
+void VantuAppShell::setSettingsProxyListeners(const QString &socksAddress,
+                                              const QString &httpAddress)
+{
+    m_settings->setProxyListeners(socksAddress, httpAddress);
+}
+
+void VantuAppShell::setSettingsSplitDNSLocal(const QStringList &servers)
+{
+    m_settings->setSplitDNSLocal(servers);
+}
+
+void VantuAppShell::setSettingsSplitDNSPolicy(const QString &policy)
+{
+    m_settings->setSplitDNSPolicy(policy);
+}
+
+void VantuAppShell::clearSettingsSplitDNSLocal()
+{
+    m_settings->clearSplitDNSLocal();
+}
+
+void VantuAppShell::resetSettingsSplitDNS()
+{
+    m_settings->resetSplitDNS();
+}
+
+void VantuAppShell::repairSettingsDiagnostics()
+{
+    m_settings->repair();
+}
+
 void VantuAppShell::setSettingsSystemProxyPreference(const QString &value)
 {
     m_protection->setSystemProxy(value);
@@ -141,6 +234,11 @@ void VantuAppShell::logoutAccount()
 void VantuAppShell::logoutAccountFromTray()
 {
     m_account->logout(OperationOrigin::Tray);
+}
+
+void VantuAppShell::requestPurchaseURL(const QString &lang)
+{
+    m_account->openRenewal(lang);
 }
 
 void VantuAppShell::pollWindowNodePing()
@@ -215,16 +313,25 @@ void VantuAppShell::handleWindowVersionFinished(quint64 requestId, const Version
 void VantuAppShell::handleWindowAPIURLFinished(quint64 requestId, const APIURLConfigInfo &info,
                                                const QString &errorMessage)
 {
-    if (m_link.take(requestId) && errorMessage.isEmpty()) {
-        m_state->setAPIURLConfig(info);
+    if (const auto request = m_link.take(requestId)) {
+        m_settings->handleAPIURL(*request, info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowAutoConnectFinished(quint64 requestId,
+                                                    const AutoConnectConfigInfo &info,
+                                                    const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_settings->handleAutoConnect(info, errorMessage);
     }
 }
 
 void VantuAppShell::handleWindowLanguageFinished(quint64 requestId, const LanguageConfigInfo &info,
                                                  const QString &errorMessage)
 {
-    if (m_link.take(requestId)) {
-        m_language->handleLanguage(info, errorMessage);
+    if (const auto request = m_link.take(requestId)) {
+        m_language->handleLanguage(*request, info, errorMessage);
     }
 }
 
@@ -236,11 +343,62 @@ void VantuAppShell::handleWindowUpdateFinished(quint64 requestId, const UpdateIn
     }
 }
 
+void VantuAppShell::handleGUIUpdateDownloadFinished(quint64 requestId,
+                                                    const GUIUpdateDownloadInfo &info,
+                                                    const QString &errorMessage)
+{
+    if (const auto request = m_link.take(requestId)) {
+        m_updates->handleDownload(*request, info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowProxyListenFinished(quint64 requestId,
+                                                    const ProxyListenResultInfo &info,
+                                                    const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_settings->handleProxyListen(info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowSplitDNSFinished(quint64 requestId, const SplitDNSInfo &info,
+                                                 const QString &errorMessage)
+{
+    if (const auto request = m_link.take(requestId)) {
+        m_settings->handleSplitDNS(*request, info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowSplitRulesFinished(quint64 requestId, const SplitRulesInfo &info,
+                                                   const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_splitRules->handleRules(info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowSplitRuleImportFinished(quint64 requestId,
+                                                        const SplitRuleMutationInfo &info,
+                                                        const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_splitRules->handleImport(info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowRepairFinished(quint64 requestId, const RepairResultInfo &info,
+                                               const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_settings->handleRepair(info, errorMessage);
+    }
+}
+
 void VantuAppShell::handleWindowConfigPathsFinished(quint64 requestId, const ConfigPaths &info,
                                                     const QString &errorMessage)
 {
-    if (m_link.take(requestId) && errorMessage.isEmpty()) {
-        m_state->setConfigPaths(info);
+    if (m_link.take(requestId)) {
+        m_settings->handleConfigPaths(info, errorMessage);
     }
 }
 
@@ -273,5 +431,13 @@ void VantuAppShell::handleWindowUserFinished(quint64 requestId, const UserInfo &
 {
     if (m_link.take(requestId)) {
         m_account->handleUser(info, errorMessage);
+    }
+}
+
+void VantuAppShell::handleWindowPurchaseURLFinished(quint64 requestId, const PurchaseURLInfo &info,
+                                                    const QString &errorMessage)
+{
+    if (m_link.take(requestId)) {
+        m_account->handlePurchaseURL(info, errorMessage);
     }
 }

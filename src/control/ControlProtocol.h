@@ -25,6 +25,10 @@ inline constexpr std::chrono::milliseconds kWaitSlice{250};
 /// never stops sending can't eat the machine's memory.
 inline constexpr qsizetype kMaxResponseBytes = qsizetype{64} * 1024 * 1024;
 
+/// What an exchange says that took too long; also the word by which a change is told from
+/// one that was refused.
+inline constexpr QLatin1StringView kTimedOut{"control request timed out"};
+
 } // namespace control
 
 /// Words of the wire, as sent and compared.
@@ -44,6 +48,9 @@ inline constexpr QLatin1StringView kPolicySplit{"split"};
 inline constexpr QLatin1StringView kRouteTunnel{"tunnel"};
 inline constexpr QLatin1StringView kRouteProxy{"proxy"};
 inline constexpr QLatin1StringView kRouteDirect{"direct"};
+
+/// The list of split rules whose traffic is stopped; the others are named as the routes.
+inline constexpr QLatin1StringView kRulesBlock{"block"};
 
 // Preferences.
 inline constexpr QLatin1StringView kLocalNetworkDirect{"direct"};

@@ -18,7 +18,6 @@ namespace {
 Q_LOGGING_CATEGORY(lcControl, "vantu.control", QtInfoMsg)
 
 constexpr QLatin1StringView kCanceled{"control request canceled"};
-constexpr QLatin1StringView kTimedOut{"control request timed out"};
 constexpr QLatin1StringView kInvalidResponse{"invalid control response"};
 
 /// The socket's own words, when it has any: a fresh socket's "Unknown error" and
@@ -136,7 +135,7 @@ bool Exchange::failWrite()
     if (isCanceled()) {
         m_errorText = kCanceled;
     } else if (m_socket.error() == QLocalSocket::UnknownSocketError) {
-        m_errorText = kTimedOut; // The socket has no complaint: only time ran out.
+        m_errorText = control::kTimedOut; // The socket has no complaint: only time ran out.
     } else {
         m_errorText = m_socket.errorString();
     }
@@ -170,7 +169,7 @@ QString Exchange::readErrorText() const
         return kCanceled;
     }
     if (isReadOverdue()) {
-        return kTimedOut;
+        return control::kTimedOut;
     }
     const QString socketText = socketErrorText(m_socket);
     return socketText.isEmpty() ? QString(kInvalidResponse) : socketText;

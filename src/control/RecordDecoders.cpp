@@ -416,9 +416,9 @@ UpdateInfo updateInfo(const QByteArray &body, QString &errorText)
 GUIUpdateDownloadInfo guiUpdateDownloadInfo(const QByteArray &body, QString &errorText)
 {
     GUIUpdateDownloadInfo info =
-        decodeBody(body, readGUIUpdateDownload, "invalid GUI update download JSON"_L1, errorText);
+        decodeBody(body, readGUIUpdateDownload, kInvalidDownload, errorText);
     if (errorText.isEmpty() && info.state == State::Unknown) {
-        errorText = u"GUI update download state is invalid"_s;
+        errorText = kInvalidDownloadState;
         return {};
     }
     return info;

@@ -3,6 +3,7 @@
 #include "ControlRecords.h"
 
 #include <QByteArray>
+#include <QLatin1StringView>
 #include <QString>
 
 /// Turns the body of an answer into a record, one function for each record.
@@ -18,7 +19,9 @@ APIURLConfigInfo apiURLConfigInfo(const QByteArray &body, QString &errorText);
 AutoConnectConfigInfo autoConnectConfigInfo(const QByteArray &body, QString &errorText);
 LanguageConfigInfo languageConfigInfo(const QByteArray &body, QString &errorText);
 UpdateInfo updateInfo(const QByteArray &body, QString &errorText);
-/// Fails on an unknown state too.
+/// Fails on an unknown state too; how, others have to tell from a request that failed.
+inline constexpr QLatin1StringView kInvalidDownload{"invalid GUI update download JSON"};
+inline constexpr QLatin1StringView kInvalidDownloadState{"GUI update download state is invalid"};
 GUIUpdateDownloadInfo guiUpdateDownloadInfo(const QByteArray &body, QString &errorText);
 UserInfo userInfo(const QByteArray &body, QString &errorText);
 /// Fails too unless the URL is exactly what the vendor's purchase page looks like:

@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "AccountPage.h"
 #include "AppState.h"
 #include "ConnectProgress.h"
 #include "ElidedLabel.h"
@@ -7,20 +8,23 @@
 #include "HandOnTheme.h"
 #include "LocationsPage.h"
 #include "MemoryLog.h"
+#include "ModePage.h"
 #include "NotificationHost.h"
-#include "PlaceholderPage.h"
 #include "RuntimeFacts.h"
+#include "SettingsPage.h"
 #include "StateLabels.h"
 #include "TextStyle.h"
 #include "Theme.h"
 #include "TrayMenuText.h"
 #include "VpnPage.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QPushButton>
 #include <QShortcut>
@@ -66,6 +70,9 @@ MainWindow::MainWindow(AppState &state, GuiPreferences &preferences, Theme &them
     buildContent();
     connectVpnPage();
     connectLocationsPage();
+    connectModePage();
+    connectSettingsPage();
+    connectAccountPage();
 
     connect(&m_theme, &Theme::changed, this, &MainWindow::applyTheme);
     connect(&m_state, &AppState::runtimeChanged, this, &MainWindow::refreshFromState);
@@ -119,11 +126,11 @@ void MainWindow::buildContent()
     m_title = new ElidedLabel(content);
     m_title->setObjectName(u"VantuCurrentPageTitle"_s);
     setTextStyle(*m_title, TextStyle::PageTitle);
+    m_notices = new NotificationHost(*content, m_title); // Tab comes to it before the page.
     m_stack = new QStackedWidget(content);
     column->addWidget(m_title);
     column->addWidget(m_stack, 1);
     buildPages();
-    m_notices = new NotificationHost(*content, m_title);
     m_notices->keepClearOf(m_vpn->primaryButton());
     m_notices->keepClearOf(*m_locations->findChild<QPushButton *>(u"VantuLocationsConnect"_s));
 
@@ -134,14 +141,16 @@ void MainWindow::buildContent()
 
 void MainWindow::buildPages()
 {
-    const QString later = tr("This page is still being built.");
     m_vpn = new VpnPage(m_state, m_recent, m_stack);
     m_locations = new LocationsPage(m_state, m_stack);
-    m_account = new PlaceholderPage(u"VantuAccountPage"_s, later, m_stack);
+    m_mode = new ModePage(m_state, m_theme, m_stack);
+    m_settings = new SettingsPage(m_state, m_preferences, m_theme, m_stack);
+    m_account = new AccountPage(m_state, m_stack);
+    // In the order of the pages' numbers.
     m_stack->addWidget(m_vpn);
     m_stack->addWidget(m_locations);
-    m_stack->addWidget(new PlaceholderPage(u"VantuModePage"_s, later, m_stack));
-    m_stack->addWidget(new PlaceholderPage(u"VantuSettingsPage"_s, later, m_stack));
+    m_stack->addWidget(m_mode);
+    m_stack->addWidget(m_settings);
     m_stack->addWidget(m_account);
 
     // The list of places answers the same keys itself, and two at once would be none.
@@ -151,36 +160,6 @@ void MainWindow::buildPages()
             [search](int page) { search->setEnabled(page != static_cast<int>(Page::Locations)); });
 }
 
-void MainWindow::connectVpnPage()
-{
-    connect(m_vpn, &VpnPage::connectRuntimeRequested, this, [this] {
-        if (connectAllowed()) {
-            Q_EMIT connectRuntimeRequested();
-        }
-    });
-    connect(m_vpn, &VpnPage::signInRequested, this, &MainWindow::connectAllowed);
-    connect(m_vpn, &VpnPage::cancelConnectRequested, this, &MainWindow::cancelConnectRequested);
-    connect(m_vpn, &VpnPage::disconnectRuntimeRequested, this,
-            &MainWindow::disconnectRuntimeRequested);
-    connect(m_vpn, &VpnPage::connectNodeRequested, this, &MainWindow::connectNode);
-    connect(m_vpn, &VpnPage::connectSmartRequested, this, &MainWindow::connectSmart);
-    connect(m_vpn, &VpnPage::setNodeFavoriteRequested, this, &MainWindow::setNodeFavoriteRequested);
-    connect(m_vpn, &VpnPage::pageRequested, this, &MainWindow::showPage);
-    connect(m_vpn, &VpnPage::browseLocationsRequested, this, &MainWindow::browseLocations);
-    connect(m_vpn, &VpnPage::recentConnectionsCleared, this, &MainWindow::recentConnectionsCleared);
-    connect(m_vpn, &VpnPage::quickEntryVisibleChanged, this, &MainWindow::publishShowingPlaces);
-}
-
-void MainWindow::connectLocationsPage()
-{
-    connect(m_locations, &LocationsPage::refreshRequested, this,
-            &MainWindow::refreshLocationsRequested);
-    connect(m_locations, &LocationsPage::connectNodeRequested, this, &MainWindow::connectNode);
-    connect(m_locations, &LocationsPage::connectSmartRequested, this, &MainWindow::connectSmart);
-    connect(m_locations, &LocationsPage::favoriteNodeRequested, this,
-            &MainWindow::setNodeFavoriteRequested);
-}
-
 void MainWindow::applyTheme()
 {
     m_theme.applyTo(*this);
@@ -188,6 +167,9 @@ void MainWindow::applyTheme()
     m_sidebar->applyThemePalette(m_theme.palette());
     m_vpn->applyThemePalette(m_theme.palette());
     m_locations->applyThemePalette(m_theme.palette());
+    m_mode->applyThemePalette(m_theme.palette());
+    m_settings->applyThemePalette(m_theme.palette());
+    m_account->applyThemePalette(m_theme.palette());
 }
 
 void MainWindow::setAppearancePreference(const QString &appearance)
@@ -214,6 +196,15 @@ void MainWindow::showPage(int index)
     }
     const Page page = static_cast<Page>(index);
     if (currentPage() == Page::Mode && page != Page::Mode) {
+        m_mode->whenSafeToLeave([this, page] { switchPage(page); });
+    } else {
+        switchPage(page);
+    }
+}
+
+void MainWindow::switchPage(Page page)
+{
+    if (currentPage() == Page::Mode && page != Page::Mode) {
         Q_EMIT modePageLeft();
     }
     m_vpn->closeQuickEntry();
@@ -221,16 +212,25 @@ void MainWindow::showPage(int index)
     const bool focusLeaves =
         page != currentPage() && focusWidget() &&
         (m_stack->isAncestorOf(focusWidget()) || m_sidebar->isAncestorOf(focusWidget()));
-    m_stack->setCurrentIndex(index);
+    m_stack->setCurrentIndex(static_cast<int>(page));
     m_sidebar->setCurrentPage(page);
     if (focusLeaves) {
         m_sidebar->focusCurrentPage();
     }
     m_title->setText(NavigationSidebar::pageName(page));
     if (page != Page::Account) {
-        m_account->setMessage({});
+        m_account->clearMessage();
     }
     publishShowingPlaces();
+    publishSettingsVisible();
+}
+
+void MainWindow::showKillSwitchSettings()
+{
+    showPage(static_cast<int>(Page::Settings));
+    if (currentPage() == Page::Settings) {
+        m_settings->showKillSwitch();
+    }
 }
 
 void MainWindow::focusSearch()
@@ -251,7 +251,8 @@ bool MainWindow::connectAllowed()
         return true;
     }
     showPage(static_cast<int>(Page::Account));
-    m_account->setMessage(QCoreApplication::translate("AccountPage", "Sign in to connect."));
+    m_account->showError(QCoreApplication::translate("AccountPage", "Sign in to connect."));
+    m_account->focusSignIn();
     return false;
 }
 
@@ -281,6 +282,9 @@ void MainWindow::setDaemonAvailable(bool available, const QString &reason)
 {
     m_vpn->setDaemonAvailable(available, reason);
     m_locations->setDaemonAvailable(available, reason);
+    m_mode->setDaemonAvailable(available, reason);
+    m_settings->setDaemonAvailable(available, reason);
+    m_account->setDaemonAvailable(available, reason);
     offerPrimaryAction();
 }
 
@@ -314,14 +318,46 @@ void MainWindow::noteCatalogReceived()
     m_locations->applyCatalog();
 }
 
-void MainWindow::setRefreshing(bool refreshing)
+void MainWindow::setActivity(const OperationActivity &activity)
 {
-    m_locations->setRefreshing(refreshing);
+    m_locations->setRefreshing(activity.refreshingLocations);
+    m_mode->setChangeInFlight(activity.changingMode);
+    m_mode->setSplitRulesLoading(activity.loadingSplitRules);
+    m_settings->setRequestInFlight(activity.changingSettings);
+    m_settings->setUpdateCheckInFlight(activity.checkingUpdate);
+    m_account->setBusy(activity.signingInOrOut);
+    m_account->setOpening(activity.openingRenewal);
 }
 
-void MainWindow::showLocationsError(const QString &message)
+void MainWindow::showPageError(Page page, const QString &message)
 {
-    m_locations->showOperationError(message);
+    switch (page) {
+    case Page::Vpn:
+        break; // Its status card tells of failed connects by itself.
+    case Page::Locations:
+        m_locations->showOperationError(message);
+        break;
+    case Page::Mode:
+        m_mode->showOperationError(message);
+        break;
+    case Page::Settings:
+        m_settings->showOperationError(message);
+        m_settings->redraw();
+        break;
+    case Page::Account:
+        m_account->showError(message);
+        break;
+    }
+}
+
+void MainWindow::showSplitRulesError(const QString &message)
+{
+    m_mode->showSplitRulesError(message);
+}
+
+void MainWindow::finishSplitRulesImport(const QString &failure)
+{
+    m_mode->finishSplitRulesImport(failure);
 }
 
 void MainWindow::clearLocationsError()
@@ -353,25 +389,56 @@ void MainWindow::publishShowingPlaces()
     }
 }
 
+void MainWindow::publishSettingsVisible()
+{
+    const bool visible = isVisible() && currentPage() == Page::Settings;
+    if (m_settingsVisible != visible) {
+        m_settingsVisible = visible;
+        if (visible) {
+            Q_EMIT settingsVisibleRequested();
+        }
+    }
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_hideToTray && !m_exitAllowed) {
-        event->ignore();
-        Q_EMIT quitRequested();
+    if (m_exitAllowed) {
+        m_mode->closeDialogs();
+        leaveScreen();
+        disconnect(&m_state, nullptr, this, nullptr);
+        event->accept();
         return;
     }
+    event->ignore();
+    m_mode->whenSafeToLeave([this] {
+        if (m_hideToTray) {
+            leaveScreen();
+            hide();
+        } else {
+            Q_EMIT quitRequested();
+        }
+    });
+}
+
+void MainWindow::keyPressEvent(QKeyEvent *event)
+{
+    // Return presses what has the keyboard, like Space.
+    auto *button = qobject_cast<QAbstractButton *>(focusWidget());
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || !button) {
+        QMainWindow::keyPressEvent(event);
+    } else if (!event->isAutoRepeat()) {
+        button->click();
+    }
+}
+
+void MainWindow::leaveScreen()
+{
     m_vpn->closeQuickEntry();
     if (currentPage() == Page::Mode) {
         Q_EMIT modePageLeft();
     }
     Q_EMIT hiddenToTray();
-    if (m_exitAllowed) {
-        disconnect(&m_state, nullptr, this, nullptr);
-        event->accept();
-    } else {
-        event->ignore();
-        hide();
-    }
 }
 
 void MainWindow::showEvent(QShowEvent *event)
@@ -383,10 +450,12 @@ void MainWindow::showEvent(QShowEvent *event)
         offerPrimaryAction();
     }
     publishShowingPlaces();
+    publishSettingsVisible();
 }
 
 void MainWindow::hideEvent(QHideEvent *event)
 {
     QMainWindow::hideEvent(event);
     publishShowingPlaces();
+    publishSettingsVisible();
 }

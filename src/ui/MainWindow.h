@@ -3,6 +3,7 @@
 #include "ConnectProgress.h"
 #include "ModeRecords.h"
 #include "NavigationSidebar.h"
+#include "OperationActivity.h"
 #include "PendingConnectTarget.h"
 #include "RecentActivityStore.h"
 
@@ -10,14 +11,16 @@
 #include <QMainWindow>
 #include <QUrl>
 
+class AccountPage;
 class AppState;
-class GuiPreferences;
 class ElidedLabel;
+class GuiPreferences;
 class LocationsPage;
+class ModePage;
 class NotificationHost;
-class PlaceholderPage;
 class QCloseEvent;
 class QStackedWidget;
+class SettingsPage;
 class Theme;
 class VpnPage;
 
@@ -54,15 +57,19 @@ public:
     void setUnconfirmedFavorites(const QHash<QString, bool> &favorites);
     /// A catalogue was received, even if there is nothing in it.
     void noteCatalogReceived();
-    /// A refresh of the catalogue was asked for and is not yet answered.
-    void setRefreshing(bool refreshing);
+    /// What runs for the user at the moment; the pages show it.
+    void setActivity(const OperationActivity &activity);
 
     /// Shows a notice for `timeoutMs`; 0 leaves it until it is dismissed. An empty
     /// message hides what stands there.
     void showNotice(const QString &message, NoticeKind kind, int timeoutMs);
-    /// A failed operation concerning the list of places: told on their page, too.
-    void showLocationsError(const QString &message);
+    /// A failed operation that belongs to a page: told there, too.
+    void showPageError(Page page, const QString &message);
     void clearLocationsError();
+    /// Why the split rules could not be had.
+    void showSplitRulesError(const QString &message);
+    /// An import of split rules ended; `failure` is empty if it was taken.
+    void finishSplitRulesImport(const QString &failure);
 
     /// "light", "dark" or anything else for the desktop's own; kept in the preferences.
     void setAppearancePreference(const QString &appearance);
@@ -118,11 +125,14 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     void refreshFromState();
-    /// Selects a page by its number; numbers that no page has are ignored.
+    /// Selects a page by its number; numbers that no page has are ignored. The user may
+    /// be asked first, and stay, while something typed on the present page would be lost.
     void showPage(int index);
+    void showKillSwitchSettings();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
@@ -132,6 +142,9 @@ private:
     void buildPages();
     void connectVpnPage();
     void connectLocationsPage();
+    void connectModePage();
+    void connectSettingsPage();
+    void connectAccountPage();
     void applyTheme();
     bool connectAllowed();
     void connectNode(const QString &nodeID, const QString &label);
@@ -141,6 +154,13 @@ private:
     void browseLocations(const QString &query);
     void offerPrimaryAction();
     void publishShowingPlaces();
+    void publishSettingsVisible();
+    void switchPage(Page page);
+    void leaveScreen();
+    void openVendorPage(const QString &path);
+    void setLaunchAtLogin(bool launch);
+    void setShowOnLaunch(bool show);
+    void showSettingsFailure(const QString &message);
 
     AppState &m_state;
     GuiPreferences &m_preferences;
@@ -149,6 +169,7 @@ private:
     bool m_hideToTray = true;
     bool m_exitAllowed = false;
     bool m_showingPlaces = false;
+    bool m_settingsVisible = false;
     /// The window was shown and the keyboard is to go to the main button, once it can.
     bool m_offerPrimary = false;
 
@@ -157,6 +178,8 @@ private:
     QStackedWidget *m_stack = nullptr;
     VpnPage *m_vpn = nullptr;
     LocationsPage *m_locations = nullptr;
-    PlaceholderPage *m_account = nullptr;
+    ModePage *m_mode = nullptr;
+    SettingsPage *m_settings = nullptr;
+    AccountPage *m_account = nullptr;
     NotificationHost *m_notices = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "NavigationSidebar.h"
 
+#include "ButtonAccess.h"
 #include "PlainText.h"
 #include "ThemePalette.h"
 #include "VantuNavCard.h"
@@ -40,6 +41,7 @@ constexpr std::array<Entry, kPageCount> kEntries{{
 NavigationSidebar::NavigationSidebar(QWidget *parent)
     : QWidget(parent)
 {
+    ButtonAccess::install();
     setObjectName(u"VantuSidebar"_s);
     setAttribute(Qt::WA_StyledBackground);
     setMinimumWidth(kMinimumWidth);

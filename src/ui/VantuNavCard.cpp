@@ -23,6 +23,7 @@ VantuNavCard::VantuNavCard(const QString &objectName, const QString &text, const
     setObjectName(objectName);
     setCheckable(true);
     setAutoExclusive(true);
+    setAutoDefault(true); // Return presses it, like Space.
     setAccessibleName(text);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 

@@ -5,9 +5,13 @@
 #include "MemoryLog.h"
 #include "SharedTheme.h"
 #include "Theme.h"
+#include "UpdateDialog.h"
+#include "UpdateLink.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -19,12 +23,14 @@ WindowController::WindowController(AppState &state, GuiPreferences &preferences,
     , m_preferences(preferences)
     , m_theme(theme)
     , m_linkOpener(&QDesktopServices::openUrl)
+    , m_privateLink(QDBusConnection::sessionBus())
     , m_fileLauncher(
           [](const QString &path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); })
 {}
 
 WindowController::~WindowController()
 {
+    delete m_updateDialog;
     if (m_window) {
         m_window->setAttribute(Qt::WA_DeleteOnClose, false);
         delete m_window;
@@ -46,6 +52,9 @@ void WindowController::setExitAllowed(bool allowed)
         m_window->setExitAllowed(allowed);
         m_window->setAttribute(Qt::WA_DeleteOnClose, allowed);
     }
+    if (m_updateDialog) {
+        m_updateDialog->setExitAllowed(allowed);
+    }
 }
 
 void WindowController::ensureWindow()
@@ -59,6 +68,7 @@ void WindowController::ensureWindow()
     setExitAllowed(m_exitAllowed);
     m_window->setDaemonAvailable(m_daemonAvailable, m_unavailableReason);
     m_window->setConnectProgress(m_progress);
+    m_window->setActivity(m_activity);
     m_window->setUnconfirmedFavorites(m_unconfirmedFavorites);
     if (m_catalogReceived) {
         m_window->noteCatalogReceived();
@@ -130,6 +140,9 @@ void WindowController::handleHiddenToTray()
 void WindowController::closeForExit()
 {
     setExitAllowed(true);
+    if (m_updateDialog) {
+        m_updateDialog->close();
+    }
     if (m_window) {
         m_window->close();
     }
@@ -160,16 +173,33 @@ void WindowController::showNotice(const QString &message, MainWindow::NoticeKind
     }
 }
 
-void WindowController::showError(const QString &message)
+void WindowController::showError(const QString &message, std::optional<Page> page)
 {
-    const QString text = message.trimmed();
-    showNotice(text.isEmpty() ? tr("Operation failed") : text, MainWindow::NoticeKind::Error);
+    QString text = message.trimmed();
+    if (text.isEmpty() && page == Page::Mode) {
+        text = QCoreApplication::translate("ModePage", "Mode operation failed");
+    } else if (text.isEmpty() && page == Page::Settings) {
+        text = QCoreApplication::translate("SettingsPage", "Settings operation failed");
+    } else if (text.isEmpty()) {
+        text = tr("Operation failed");
+    }
+    showNotice(text, MainWindow::NoticeKind::Error);
+    if (m_window && page) {
+        m_window->showPageError(*page, text);
+    }
 }
 
 void WindowController::openLink(const QUrl &url)
 {
     if (url.isValid() && !m_linkOpener(url)) {
         showError(tr("Could not open link"));
+    }
+}
+
+void WindowController::openPrivateLink(const QUrl &url)
+{
+    if (url.isValid()) {
+        m_privateLink.open(url, [this, url] { openLink(url); });
     }
 }
 
@@ -201,6 +231,15 @@ void WindowController::showOrRaise()
     }
     m_window->raise();
     m_window->activateWindow();
+    // What waits for an answer must not end up below.
+    if (QWidget *question = QApplication::activeModalWidget()) {
+        question->raise();
+        question->activateWindow();
+    }
+    // Nothing gets past a required update.
+    if (m_updateDialog && m_updateDialog->isForced()) {
+        raiseUpdateDialog();
+    }
 }
 
 void WindowController::showPage(Page page)
@@ -224,9 +263,10 @@ void WindowController::showModePage()
     showPage(Page::Mode);
 }
 
-void WindowController::showSettings()
+void WindowController::showKillSwitchSettings()
 {
-    showPage(Page::Settings);
+    showOrRaise();
+    m_window->showKillSwitchSettings();
 }
 
 void WindowController::activateFromApplication()
@@ -239,13 +279,6 @@ void WindowController::setUnconfirmedFavorites(const QHash<QString, bool> &favor
     m_unconfirmedFavorites = favorites;
     if (m_window) {
         m_window->setUnconfirmedFavorites(favorites);
-    }
-}
-
-void WindowController::showLocationsError(const QString &message)
-{
-    if (m_window) {
-        m_window->showLocationsError(message);
     }
 }
 
@@ -264,9 +297,121 @@ void WindowController::noteCatalogReceived()
     }
 }
 
-void WindowController::setRefreshing(bool refreshing)
+void WindowController::setActivity(const OperationActivity &activity)
+{
+    if (m_activity == activity) {
+        return;
+    }
+    m_activity = activity;
+    if (m_window) {
+        m_window->setActivity(activity);
+    }
+}
+
+void WindowController::showSplitRulesError(const QString &message)
 {
     if (m_window) {
-        m_window->setRefreshing(refreshing);
+        m_window->showSplitRulesError(message);
+    }
+}
+
+void WindowController::finishSplitRulesImport(const QString &failure)
+{
+    if (m_window) {
+        m_window->finishSplitRulesImport(failure);
+    }
+}
+
+void WindowController::ensureUpdateDialog()
+{
+    if (m_updateDialog) {
+        return;
+    }
+    m_updateDialog = new UpdateDialog(m_theme.get()); // Owned: no parent.
+    m_updateDialog->setExitAllowed(m_exitAllowed);
+    m_updateDialog->installEventFilter(this);
+    connect(m_updateDialog, &UpdateDialog::downloadRequested, this,
+            &WindowController::updateDownloadRequested);
+    connect(m_updateDialog, &UpdateDialog::cancelDownloadRequested, this,
+            &WindowController::updateDownloadCancelRequested);
+    connect(m_updateDialog, &UpdateDialog::openDownloadPageRequested, this,
+            &WindowController::openDownloadPage);
+    connect(m_updateDialog, &UpdateDialog::exitRequested, this,
+            &WindowController::forceUpdateExitRequested);
+}
+
+bool WindowController::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
+        Q_EMIT updateDialogVisibleChanged(event->type() == QEvent::Show);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void WindowController::showUpdate(const UpdateInfo &update)
+{
+    ensureUpdateDialog();
+    m_update = update;
+    m_updateDialog->setUpdate(update);
+    raiseUpdateDialog();
+}
+
+void WindowController::raiseUpdateDialog()
+{
+    if (m_updateDialog && !m_exitAllowed) {
+        m_updateDialog->show();
+        m_updateDialog->raise();
+        m_updateDialog->activateWindow();
+    }
+}
+
+void WindowController::withdrawUpdate()
+{
+    // Deleted rather than hidden: a gate that is no longer one can't be closed.
+    if (m_updateDialog) {
+        m_updateDialog->setExitAllowed(true);
+        m_updateDialog->close();
+        m_updateDialog->deleteLater();
+        m_updateDialog.clear();
+    }
+}
+
+void WindowController::setUpdateDownload(const GUIUpdateDownloadInfo &download)
+{
+    if (m_updateDialog) {
+        m_updateDialog->setDownload(download);
+    }
+}
+
+void WindowController::setUpdateNote(const QString &text, bool error)
+{
+    if (m_updateDialog) {
+        m_updateDialog->setNote(text,
+                                error ? UpdateDialog::Tone::Error : UpdateDialog::Tone::Muted);
+    }
+}
+
+void WindowController::setUpdateWaiting(bool waiting)
+{
+    if (m_updateDialog) {
+        m_updateDialog->setWaiting(waiting);
+    }
+}
+
+void WindowController::openDownloadPage()
+{
+    const QUrl link = updatelink::downloadLink(m_update);
+    if (!link.isValid()) {
+        setUpdateNote(
+            QCoreApplication::translate("UpdateDialog", "The download link is unavailable."), true);
+    } else if (!m_linkOpener(link)) {
+        setUpdateNote(
+            QCoreApplication::translate("UpdateDialog", "Could not open the update download link."),
+            true);
+    } else {
+        setUpdateNote(QCoreApplication::translate(
+                          "UpdateDialog", "The download link opened in your browser. Vantu will "
+                                          "not run the installer automatically."),
+                      false);
     }
 }

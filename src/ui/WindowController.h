@@ -3,6 +3,8 @@
 #include "ConnectProgress.h"
 #include "ControlRecords.h"
 #include "MainWindow.h"
+#include "PrivateLink.h"
+#include "UpdateRecords.h"
 
 #include <QHash>
 #include <QObject>
@@ -10,17 +12,18 @@
 #include <QUrl>
 
 #include <functional>
-#include <memory>
+#include <optional>
 
 class AppState;
 class GuiPreferences;
 class SharedTheme;
+class UpdateDialog;
 
 /// The shell's one handle on the main window.
 ///
 /// It makes the window only when it is first needed, repeats the window's
-/// requests as its own signals, opens links and folders, and is the place where
-/// notices are shown; a notice without a window is dropped. Lives on the GUI
+/// requests as its own signals, opens links and folders, shows the update dialog, and is
+/// the place where notices are shown; a notice without a window is dropped. Lives on the GUI
 /// thread; the store, the preferences and the theme that it is given must outlive it.
 class WindowController final : public QObject
 {
@@ -57,11 +60,14 @@ public:
     /// A notice in the window; see MainWindow::showNotice().
     void showNotice(const QString &message, MainWindow::NoticeKind kind,
                     int timeoutMs = kNoticeTimeoutMs);
-    /// An error notice; an empty message becomes "Operation failed".
-    void showError(const QString &message);
+    /// An error notice; an empty message becomes "Operation failed". With a page, the
+    /// message also stays there, and an empty one becomes the page's own words.
+    void showError(const QString &message, std::optional<Page> page = std::nullopt);
 
     /// Opens `url` with the desktop. An invalid one is ignored.
     void openLink(const QUrl &url);
+    /// The same for a link that nobody else may see.
+    void openPrivateLink(const QUrl &url);
     /// Hands `path` to the desktop; false unless it is an absolute path of an
     /// existing regular file that could be opened.
     bool launchFile(const QString &path);
@@ -69,11 +75,23 @@ public:
 
     /// Wishes that the daemon has not confirmed; see MainWindow.
     void setUnconfirmedFavorites(const QHash<QString, bool> &favorites);
-    void showLocationsError(const QString &message);
     void clearLocationsError();
     /// A catalogue was received, even if there is nothing in it.
     void noteCatalogReceived();
-    void setRefreshing(bool refreshing);
+    /// What runs for the user at the moment.
+    void setActivity(const OperationActivity &activity);
+    void showSplitRulesError(const QString &message);
+    void finishSplitRulesImport(const QString &failure);
+
+    /// Offers a release in the update dialog, which is made when first needed.
+    void showUpdate(const UpdateInfo &update);
+    /// There is nothing to offer any more.
+    void withdrawUpdate();
+    void setUpdateDownload(const GUIUpdateDownloadInfo &download);
+    /// Brings the dialog forward, if there is one.
+    void raiseUpdateDialog();
+    void setUpdateNote(const QString &text, bool error);
+    void setUpdateWaiting(bool waiting);
 
 Q_SIGNALS:
     void connectRuntimeRequested();
@@ -118,33 +136,43 @@ Q_SIGNALS:
     void quitRequested();
     /// Somebody looks at a list of places, or no longer does.
     void showingPlacesChanged(bool showing);
+    void updateDialogVisibleChanged(bool visible);
 
 public Q_SLOTS:
     void showOrRaise();
     void showAccount();
     void showLocations();
     void showModePage();
-    void showSettings();
+    void showKillSwitchSettings();
     void activateFromApplication();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void ensureWindow();
     void connectWindow();
     void handleHiddenToTray();
     void showPage(Page page);
+    void ensureUpdateDialog();
+    void openDownloadPage();
 
     AppState &m_state;
     GuiPreferences &m_preferences;
     SharedTheme &m_theme;
     QPointer<MainWindow> m_window;
+    QPointer<UpdateDialog> m_updateDialog; ///< Owned; has no parent, to live without a window.
     bool m_hideToTray = true;
     bool m_exitAllowed = false;
     bool m_daemonAvailable = false;
     QString m_unavailableReason;
     ConnectProgress m_progress;
+    OperationActivity m_activity;
+    UpdateInfo m_update;
     QHash<QString, bool> m_unconfirmedFavorites;
     bool m_catalogReceived = false;
     int m_windowsCreated = 0;
     LinkOpener m_linkOpener;
+    PrivateLink m_privateLink;
     FileLauncher m_fileLauncher;
 };

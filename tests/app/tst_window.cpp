@@ -2,8 +2,8 @@
 #include "CatalogItemDelegate.h"
 #include "CatalogTreeModel.h"
 #include "MainWindow.h"
+#include "Person.h"
 #include "RequestLink.h"
-#include "ShellFixture.h"
 #include "WindowController.h"
 
 #include <QAccessible>
@@ -27,95 +27,6 @@ constexpr auto kConnect = "POST /v1/connect";
 constexpr auto kDisconnect = "POST /v1/disconnect";
 constexpr auto kFavorite = "POST /v1/nodes/favorite";
 constexpr auto kRefresh = "POST /v1/nodes/refresh";
-constexpr auto kNodes = R"({"pingRunning":true,"nodes":[{"id":"t1","name":"Tokyo 1","tags":["x"]},
-    {"id":"b1","name":"Berlin 1"}]})";
-
-/// Somebody in front of the window, who sees, points and types.
-struct Person
-{
-    Person()
-    {
-        desk.answer("GET /v1/nodes", kNodes);
-        desk.answer("GET /v1/nodes/groups", R"({"tabs":[{"group_type":"Asia","node_ids":["t1"]},
-            {"group_type":"Europe","node_ids":["b1"]}]})");
-    }
-    bool start() { return desk.start() && QTest::qWaitForWindowActive(desk.window()); }
-
-    /// What nothing covers under this name; null when there is nothing.
-    template<class Widget = QWidget>
-    Widget *see(const QString &name) const
-    {
-        for (Widget *widget : desk.window()->findChildren<Widget *>(name)) {
-            const QWidget *top =
-                QApplication::widgetAt(widget->mapToGlobal(widget->rect().center()));
-            if (widget->isVisible() && (top == widget || widget->isAncestorOf(top))) {
-                return widget;
-            }
-        }
-        return nullptr;
-    }
-    bool press(const QString &name) const
-    {
-        QWidget *widget = see(name);
-        const bool can = widget && widget->isEnabled();
-        if (can) {
-            QTest::mouseClick(widget, Qt::LeftButton);
-        }
-        return can;
-    }
-    static void key(int key) { QTest::keyClick(QApplication::focusWidget(), Qt::Key(key)); }
-    static void ctrl(int key)
-    {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), Qt::ControlModifier);
-    }
-    static void type(const char *text)
-    {
-        QTest::keyClicks(QApplication::focusWidget(), QLatin1StringView(text));
-    }
-    QString title() const { return desk.text(u"VantuCurrentPageTitle"_s); }
-    bool reads(const QString &sentence) const
-    {
-        const auto labels = desk.window()->findChildren<QLabel *>();
-        return std::any_of(labels.begin(), labels.end(), [&sentence](const QLabel *label) {
-            return label->isVisible() && label->text() == sentence;
-        });
-    }
-    /// A row of the list of places that is in sight.
-    QModelIndex row(const char *text) const
-    {
-        for (auto *list : desk.window()->findChildren<QTreeView *>()) {
-            for (const QModelIndex &index :
-                 list->model()->match(list->model()->index(0, 0), Qt::DisplayRole,
-                                      QLatin1StringView(text), -1, Qt::MatchRecursive)) {
-                if (list->isVisible() && list->visualRect(index).isValid()) {
-                    return index;
-                }
-            }
-        }
-        return {};
-    }
-    bool isStarred(const char *text) const
-    {
-        return row(text).data(CatalogTreeModel::FavoriteRole).toBool();
-    }
-    void pressStar(const char *text) const
-    {
-        const auto *list = see<QTreeView>(u"VantuLocationsTree"_s);
-        const QRect star = CatalogItemDelegate::favoriteRect(list->visualRect(row(text)), {});
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, star.center());
-    }
-    /// Brings all places into sight.
-    bool searchAll() const
-    {
-        ctrl(Qt::Key_2);
-        ctrl(Qt::Key_F);
-        type("1");
-        return row("Tokyo 1").isValid() && row("Berlin 1").isValid();
-    }
-
-    ShellFixture desk;
-};
-
 using Act = bool (*)(const Person &);
 
 } // namespace
@@ -224,7 +135,7 @@ private Q_SLOTS:
         QVERIFY(p.start() && p.searchAll());
         p.desk.answer("GET /v1/nodes/groups",
                       R"({"tabs":[{"group_type":"Favorite","node_ids":["t1","b1"]}]})");
-        p.desk.answerHeld(kFavorite, kNodes);
+        p.desk.answerHeld(kFavorite, Person::kNodes);
         p.pressStar("Tokyo 1");
         p.pressStar("Berlin 1");
         QVERIFY(p.isStarred("Tokyo 1") && p.isStarred("Berlin 1"));
@@ -251,7 +162,7 @@ private Q_SLOTS:
     {
         Person p;
         QVERIFY(p.start() && p.searchAll());
-        p.desk.answerHeld(kRefresh, kNodes);
+        p.desk.answerHeld(kRefresh, Person::kNodes);
         QVERIFY(p.press(u"VantuLocationsRefresh"_s) && !p.press(u"VantuLocationsRefresh"_s));
         QTRY_COMPARE(p.desk.body(kRefresh), "{}");
         p.pressStar("Berlin 1");

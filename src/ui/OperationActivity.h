@@ -1,0 +1,15 @@
+#pragma once
+
+/// What the client is doing for the user at the moment, as far as the pages show it.
+struct OperationActivity
+{
+    bool changingMode = false;     ///< The mode or the local network.
+    bool changingSettings = false; ///< Anything of the settings page.
+    bool checkingUpdate = false;   ///< The user's own look for a newer client.
+    bool signingInOrOut = false;
+    bool openingRenewal = false;
+    bool loadingSplitRules = false;
+    bool refreshingLocations = false;
+
+    bool operator==(const OperationActivity &) const = default;
+};
