@@ -1,0 +1,2 @@
+// The target of the precompiled header needs a source.
+#include "pch.h"
