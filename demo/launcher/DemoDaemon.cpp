@@ -17,6 +17,8 @@ namespace {
 // Handed to a restarted client through its environment.
 constexpr auto kDirectoryVariable = "VANTU_DEMO_DIRECTORY";
 constexpr auto kPidVariable = "VANTU_DEMO_DAEMON_PID";
+/// Set by who runs a daemon for several clients, one after the other.
+constexpr auto kKeepVariable = "VANTU_DEMO_KEEP_DAEMON";
 
 constexpr int kStartDeadlineMs = 5000;
 constexpr int kStopDeadlineMs = 2000;
@@ -94,6 +96,9 @@ bool DemoDaemon::waitUntilListening() const
 
 void DemoDaemon::stop()
 {
+    if (qEnvironmentVariableIsSet(kKeepVariable)) {
+        return;
+    }
     if (m_pid > 0) {
         ::kill(static_cast<pid_t>(m_pid), SIGTERM);
         m_pid = 0;

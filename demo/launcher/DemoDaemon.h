@@ -18,7 +18,8 @@ public:
     /// with a text in `error` when it can't be started.
     bool start(const QString &program, const QStringList &arguments, QString *error);
 
-    /// Ends the daemon and removes the demonstration's directory.
+    /// Ends the daemon and removes the demonstration's directory, unless the environment
+    /// says that both are somebody else's.
     void stop();
 
     QString socketPath() const;

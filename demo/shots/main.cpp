@@ -3,18 +3,24 @@
 
 #include "AppState.h"
 #include "GuiPreferences.h"
+#include "Language.h"
 #include "MainWindow.h"
+#include "ModeRequests.h"
+#include "RuntimeFacts.h"
 #include "SimDaemon.h"
 #include "SimServer.h"
+#include "TranslationManager.h"
 #include "VantuAppShell.h"
 #include "WindowController.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -79,17 +85,20 @@ public:
         }
     }
 
-    bool run(bool connected)
+    enum class Tour { Pages, ConnectedPages, Dialogs };
+
+    bool run(Tour tour)
     {
         VantuAppShell shell(socketPath());
-        shell.setLoadedLanguage(u"en-US"_s);
+        // Whatever language the daemon speaks, the pictures are of the loaded one.
+        shell.setLanguageRestartAllowed(false);
         shell.start();
         MainWindow *window = findWindow();
         if (!window ||
             !waitFor([&shell] { return !shell.state().runtime().authState.isEmpty(); })) {
             return false;
         }
-        if (connected) {
+        if (tour == Tour::ConnectedPages) {
             shell.connectRuntime();
             pause(kSettleMs);
             take(*window, u"vpn-connecting"_s);
@@ -98,7 +107,11 @@ public:
                 return false;
             }
         }
-        takePages(*window);
+        if (tour == Tour::Dialogs) {
+            takeDialogs(shell, *window);
+        } else {
+            takePages(*window);
+        }
         shell.quit();
         return true;
     }
@@ -148,12 +161,72 @@ private:
             take(window, u"locations-nothing"_s);
             search->clear();
         }
+        window.showPage(static_cast<int>(Page::Mode));
+        take(window, u"mode"_s);
+        window.showPage(static_cast<int>(Page::Settings));
+        take(window, u"settings"_s);
+        if (auto *content = window.findChild<QWidget *>(u"VantuSettingsScrollContent"_s)) {
+            take(*content, u"settings-whole"_s);
+        }
         window.showPage(static_cast<int>(Page::Account));
         take(window, u"account"_s);
         window.showPage(static_cast<int>(Page::Vpn));
         window.showNotice(u"Could not connect to this location"_s, MainWindow::NoticeKind::Error,
                           0);
         take(window, u"vpn-notice"_s);
+    }
+
+    /// The dialog that the button opens.
+    void takeDialog(MainWindow &window, Page page, const QString &button, const QString &name)
+    {
+        window.showPage(static_cast<int>(page));
+        auto *opener = window.findChild<QAbstractButton *>(button);
+        if (!opener || !waitFor([opener] { return opener->isVisible() && opener->isEnabled(); })) {
+            std::fprintf(stderr, "%s can't be pressed\n", qUtf8Printable(button));
+            return;
+        }
+        opener->click();
+        takeModal(name);
+    }
+
+    void takeModal(const QString &name)
+    {
+        if (waitFor([] { return QApplication::activeModalWidget() != nullptr; })) {
+            take(*QApplication::activeModalWidget(), name);
+            QApplication::activeModalWidget()->close();
+        }
+    }
+
+    void takeDialogs(VantuAppShell &shell, MainWindow &window)
+    {
+        shell.setModePreference(moderequest::vantuVPNSplit(shell.state().runtime().mode));
+        waitFor([&shell] { return facts::isSplit(shell.state().runtime().mode); });
+        window.showPage(static_cast<int>(Page::Mode));
+        take(window, u"mode-split"_s);
+        takeDialog(window, Page::Mode, u"VantuModeVantuCustomRulesEdit"_s, u"rules"_s);
+        takeDialog(window, Page::Mode, u"VantuModeVantuRegions"_s, u"regions"_s);
+        takeDialog(window, Page::Settings, u"VantuSettingsLanguage"_s, u"language"_s);
+        takeDialog(window, Page::Settings, u"VantuSettingsKillSwitchLockdown"_s, u"lockdown"_s);
+        shell.checkSettingsUpdate();
+        QWidget *dialog = nullptr;
+        const auto updateDialog = [&dialog] {
+            const QWidgetList widgets = QApplication::topLevelWidgets();
+            for (QWidget *widget : widgets) {
+                if (widget->objectName() == "VantuUpdateDialog"_L1 && widget->isVisible()) {
+                    dialog = widget;
+                }
+            }
+            return dialog != nullptr;
+        };
+        if (waitFor(updateDialog)) {
+            take(*dialog, u"update"_s);
+            shell.startGUIUpdateDownload();
+            waitFor([&dialog] {
+                const auto *bar = dialog->findChild<QProgressBar *>();
+                return bar && bar->value() > 0;
+            });
+            take(*dialog, u"update-download"_s);
+        }
     }
 
     QString m_prefix;
@@ -176,19 +249,32 @@ int main(int argc, char **argv)
     parser.addHelpOption();
     parser.addOptions({{u"out"_s, u"Folder for the pictures."_s, u"folder"_s, u"shots"_s},
                        {u"appearance"_s, u"light or dark."_s, u"look"_s, u"light"_s},
+                       {u"language"_s, u"Language of the texts."_s, u"code"_s, u"en-US"_s},
                        {u"rtl"_s, u"Mirrored, as for Arabic."_s}});
     parser.process(application);
     GuiPreferences().setAppearance(parser.value(u"appearance"_s));
+    TranslationManager translations;
+    if (!translations.load(parser.value(u"language"_s))) {
+        std::fprintf(stderr, "No such language\n");
+        return 1;
+    }
+    QGuiApplication::setLayoutDirection(language::layoutDirection(translations.currentCode()));
     if (parser.isSet(u"rtl"_s)) {
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     }
 
     const QString folder = parser.value(u"out"_s);
     QDir().mkpath(folder);
-    bool ok = Photographer(u"normal"_s, folder + u"/normal-"_s).run(true);
-    ok = Photographer(u"signed-out"_s, folder + u"/signed-out-"_s).run(false) && ok;
-    ok = Photographer(u"stale-catalogue"_s, folder + u"/stale-"_s).run(false) && ok;
-    ok = Photographer(u"empty-catalogue"_s, folder + u"/empty-"_s).run(false) && ok;
-    ok = Photographer(u"hostile-names"_s, folder + u"/hostile-"_s).run(false) && ok;
+    using Tour = Photographer::Tour;
+    bool ok = Photographer(u"normal"_s, folder + u"/normal-"_s).run(Tour::ConnectedPages);
+    for (const auto *scenario :
+         {"signed-out", "stale-catalogue", "empty-catalogue", "hostile-names", "proxy-mode"}) {
+        const QString name = QString::fromLatin1(scenario);
+        ok = Photographer(name, folder + u'/' + name + u'-').run(Tour::Pages) && ok;
+    }
+    for (const auto *scenario : {"update", "forced-update"}) {
+        const QString name = QString::fromLatin1(scenario);
+        ok = Photographer(name, folder + u'/' + name + u'-').run(Tour::Dialogs) && ok;
+    }
     return ok ? 0 : 1;
 }

@@ -5,19 +5,21 @@
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QPixmap>
+#include <QRect>
 #include <QScreen>
 #include <QTimer>
 
 #include <cstdio>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kStepDeadlineMs = 30000;
+constexpr int kPartDeadlineMs = 20000;
 constexpr int kLookIntervalMs = 50;
-/// What a click changed has reached the screen by then.
-constexpr int kSettleMs = 400;
+/// What a click changed has been painted by then.
+constexpr int kSettleMs = 300;
 
 void pause(int ms)
 {
@@ -26,178 +28,211 @@ void pause(int ms)
     loop.exec();
 }
 
-const TrayMenuItem *entry(const TrayMenuItem &menu, const QString &label)
+TourClient::Matcher named(const QString &name)
 {
-    return menu.find(label);
-}
-
-/// The words of the entry when it is there and can be chosen.
-QString enabledEntry(const TrayMenuItem &menu, const QString &label)
-{
-    const TrayMenuItem *item = entry(menu, label);
-    return item && item->enabled ? u"\"%1\" can be chosen"_s.arg(label) : QString();
-}
-
-QString checkedEntry(const TrayMenuItem &menu, const QString &label, bool checked)
-{
-    const TrayMenuItem *item = entry(menu, label);
-    if (!item || !item->enabled || item->checked != checked) {
-        return {};
-    }
-    return checked ? u"\"%1\" is checked"_s.arg(label) : u"\"%1\" is not checked"_s.arg(label);
-}
-
-/// The first entry below `item` that names a node and can be chosen.
-const TrayMenuItem *firstNode(const TrayMenuItem &item)
-{
-    for (const TrayMenuItem &child : item.children) {
-        if (child.submenu) {
-            if (const TrayMenuItem *node = firstNode(child)) {
-                return node;
-            }
-        } else if (child.checkable && child.enabled && child.visible && !child.checked) {
-            return &child;
-        }
-    }
-    return nullptr;
+    return [name](const QString &found) { return found == name; };
 }
 
 } // namespace
 
-Tour::Tour(const QString &program, const QString &pictures)
-    : m_program(program)
+Tour::Tour(const QString &directory, const QString &pictures)
+    : m_directory(directory)
     , m_pictures(pictures)
-{
-    m_client.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-}
-
-Tour::~Tour()
-{
-    if (m_client.state() != QProcess::NotRunning) {
-        m_client.terminate();
-        m_client.waitForFinished(3000);
-    }
-}
+    , m_client(directory + u"/vantu-demo"_s)
+{}
 
 bool Tour::run(const QStringList &arguments)
 {
-    const auto can = [](const QString &label) {
-        return [label](const TrayMenuItem &menu) { return enabledEntry(menu, label); };
-    };
-    const auto checked = [](const QString &label, bool on) {
-        return [label, on](const TrayMenuItem &menu) { return checkedEntry(menu, label, on); };
-    };
-    const auto shown = [](const QString &label) {
-        return [label](const TrayMenuItem &menu) {
-            return entry(menu, label) ? u"\"%1\" is shown"_s.arg(label) : QString();
-        };
-    };
-
-    if (!start(arguments)) {
-        return false;
-    }
-    step(u"ready"_s, {}, can(u"Connect"_s));
-    step(u"connect"_s, u"Connect"_s, can(u"Cancel"_s));
-    step(u"cancel"_s, u"Cancel"_s, can(u"Connect"_s));
-    step(u"connect-again"_s, u"Connect"_s, can(u"Disconnect"_s));
-    step(u"mode"_s, u"WireGuard"_s, checked(u"WireGuard"_s, true));
-    step(u"kill-switch-on"_s, u"Kill Switch"_s, checked(u"Kill Switch"_s, true));
-    step(u"kill-switch-off"_s, u"Kill Switch"_s, checked(u"Kill Switch"_s, false));
-    pickNode();
-    step(u"disconnect"_s, u"Disconnect"_s, can(u"Connect"_s));
-    step(u"sign-out"_s, u"Logout"_s, shown(u"Account: Login Required"_s));
-    step(u"window"_s, u"Open Vantu..."_s, shown(u"Account: Login Required"_s));
-    quit();
-    std::printf("%d steps, %d failed\n", m_steps, m_failures);
-    return m_failures == 0;
-}
-
-bool Tour::start(const QStringList &arguments)
-{
+    QElapsedTimer elapsed;
+    elapsed.start();
+    // Pictures of an earlier walk would be mistaken for those of this one.
+    QDir(m_pictures).removeRecursively();
     QDir().mkpath(m_pictures);
-    QElapsedTimer elapsed;
-    elapsed.start();
-    bool ok = m_host.start();
-    m_client.start(m_program, arguments);
-    ok = ok && m_client.waitForStarted();
-    while (ok && m_host.items().isEmpty()) {
-        ok = elapsed.elapsed() < kStepDeadlineMs && m_client.state() == QProcess::Running;
-        pause(kLookIntervalMs / 10);
-    }
-    report(ok, u"start"_s, ok ? u"the icon stands in the tray"_s : u"no tray icon came"_s,
-           elapsed.elapsed());
-    return ok;
+    start(arguments);
+    signIn();
+    connectAndCancel();
+    useTray();
+    findPlace();
+    changeMode();
+    editRules();
+    lockDown();
+    changeAddresses();
+    changeSwitches();
+    update();
+    changeLanguage();
+    std::printf("%d steps in %lld s%s\n", m_steps, static_cast<long long>(elapsed.elapsed() / 1000),
+                m_failed ? ", the last one failed" : ", all as they should be");
+    return !m_failed;
 }
 
-bool Tour::step(const QString &name, const QString &label, const Seen &seen)
+// Things to do
+
+Tour::Part Tour::press(const QString &button)
 {
-    QElapsedTimer elapsed;
-    elapsed.start();
-    if (!label.isEmpty() && !m_host.click(label)) {
-        report(false, name,
-               u"\"%1\" can't be chosen; the menu holds %2"_s.arg(
-                   label, m_host.menu().labels().join(u" | "_s)),
-               elapsed.elapsed());
-        return false;
-    }
-    QString words;
-    while (words.isEmpty() && elapsed.elapsed() < kStepDeadlineMs) {
-        pause(kLookIntervalMs);
-        words = seen(m_host.menu());
-    }
-    const bool ok = !words.isEmpty();
-    if (!ok) {
-        words = u"not seen; the menu holds "_s + m_host.menu().labels().join(u" | "_s);
-    }
-    report(ok, name, words + u"; tool tip \""_s + m_host.toolTip() + u'"', elapsed.elapsed());
-    takePicture(name);
-    return ok;
+    return press(button, named(button));
 }
 
-bool Tour::pickNode()
+Tour::Part Tour::press(const QString &words, const Matcher &matches)
 {
-    const QString name = u"node"_s;
-    const QString submenu = u"Node / Location"_s;
-    const TrayMenuItem closed = m_host.menu();
-    if (const TrayMenuItem *item = entry(closed, submenu)) {
-        m_host.aboutToShow(item->id);
-    }
-    const TrayMenuItem menu = m_host.menu();
-    const TrayMenuItem *places = entry(menu, submenu);
-    const TrayMenuItem *node = places ? firstNode(*places) : nullptr;
-    if (!node) {
-        report(false, name, u"the catalogue's menu holds no node"_s, 0);
-        return false;
-    }
-    const QString label = node->label;
-    const int id = node->id;
-    m_host.sendEvent(id, u"clicked"_s);
-    return step(name, {}, [&label](const TrayMenuItem &now) {
-        const TrayMenuItem *item = entry(now, label);
-        return item && item->checked && !enabledEntry(now, u"Disconnect"_s).isEmpty()
-                   ? u"connected to \"%1\""_s.arg(label)
-                   : QString();
+    return {u"press \"%1\""_s.arg(words), [this, matches] { return m_client.press(matches); }};
+}
+
+Tour::Part Tour::tabAndPress(const QString &button)
+{
+    return {u"go to and press \"%1\""_s.arg(button), [this, matches = named(button)] {
+                return m_client.tabTo(matches) && m_client.press(matches);
+            }};
+}
+
+Tour::Part Tour::open(const QString &page)
+{
+    return {u"open the page \"%1\""_s.arg(page), [this, page] {
+                const auto title = m_client.find(u"label"_s, [](const QString &) { return true; });
+                if (title && title->name() == page) {
+                    return true;
+                }
+                m_client.press(named(page));
+                return false;
+            }};
+}
+
+Tour::Part Tour::type(const QString &field, const QString &text)
+{
+    const auto sent = std::make_shared<bool>(false);
+    return {u"type into \"%1\""_s.arg(field), [this, field, text, sent] {
+                *sent = *sent || m_client.typeInto(field, text);
+                // Keys go another way than presses, which could overtake them.
+                const auto found = m_client.find(u"text"_s, named(field));
+                return *sent && found && found->textLength() == text.size();
+            }};
+}
+
+Tour::Part Tour::key(const QString &name, int keySymbol)
+{
+    return {u"press the key %1"_s.arg(name), [this, keySymbol] {
+                m_client.desktop().pressKey(keySymbol);
+                return true;
+            }};
+}
+
+Tour::Part Tour::click(const QString &entry)
+{
+    return {u"choose \"%1\" in the tray"_s.arg(entry),
+            [this, entry] { return m_client.tray().click(entry); }};
+}
+
+Tour::Part Tour::tell(const QString &command)
+{
+    return {u"tell the daemon \"%1\""_s.arg(command),
+            [this, command] { return m_daemon.command(command) == "ok"_L1; }};
+}
+
+// Things to see
+
+Tour::Part Tour::reads(const QString &label)
+{
+    return reads(label, named(label));
+}
+
+Tour::Part Tour::reads(const QString &words, const Matcher &matches)
+{
+    return {u"read \"%1\""_s.arg(words),
+            [this, matches] { return m_client.find(u"label"_s, matches).has_value(); }};
+}
+
+Tour::Part Tour::lists(const QString &words, const Matcher &matches)
+{
+    return {u"the list has \"%1\""_s.arg(words),
+            [this, matches] { return m_client.find(u"tree item"_s, matches).has_value(); }};
+}
+
+Tour::Part Tour::hasButton(const QString &button)
+{
+    return hasButton(button, named(button));
+}
+
+Tour::Part Tour::hasButton(const QString &words, const Matcher &matches)
+{
+    return {u"see the button \"%1\""_s.arg(words),
+            [this, matches] { return m_client.findButton(matches).has_value(); }};
+}
+
+Tour::Part Tour::stands(const QString &field, const QString &text)
+{
+    return {u"\"%1\" stands in \"%2\""_s.arg(text, field), [this, field, text] {
+                const auto found = m_client.find(u"text"_s, named(field));
+                return found && found->text().contains(text);
+            }};
+}
+
+Tour::Part Tour::offers(const QString &entry)
+{
+    return {u"the tray offers \"%1\""_s.arg(entry), [this, entry] {
+                const TrayMenuItem menu = m_client.tray().menu();
+                const TrayMenuItem *item = menu.find(entry);
+                return item && item->visible && item->enabled;
+            }};
+}
+
+Tour::Part Tour::ticked(const QString &entry, bool on)
+{
+    return {u"\"%1\" is %2in the tray"_s.arg(entry, on ? u"ticked "_s : u"not ticked "_s),
+            [this, entry, on] {
+                const TrayMenuItem menu = m_client.tray().menu();
+                const TrayMenuItem *item = menu.find(entry);
+                return item && item->enabled && item->checked == on;
+            }};
+}
+
+Tour::Part Tour::holds(const QString &path, const QString &value)
+{
+    return holds(u"%1 = %2"_s.arg(path, value), [path, value](const TourDaemon &daemon) {
+        return daemon.status(path).toString() == value;
     });
 }
 
-bool Tour::quit()
+Tour::Part Tour::holds(const QString &words,
+                       const std::function<bool(const TourDaemon &daemon)> &check)
 {
-    QElapsedTimer elapsed;
-    elapsed.start();
-    m_host.click(u"Quit"_s);
-    const bool ok = m_client.waitForFinished(5000) && m_client.exitStatus() == QProcess::NormalExit;
-    report(ok && m_client.exitCode() == 0, u"quit"_s,
-           ok ? u"left with status %1"_s.arg(m_client.exitCode()) : u"did not leave"_s,
-           elapsed.elapsed());
-    return ok;
+    return {u"the daemon holds "_s + words, [this, check] { return check(m_daemon); }};
 }
 
-void Tour::report(bool ok, const QString &name, const QString &seen, qint64 ms)
+// Walking
+
+void Tour::step(const QString &name, const QList<Part> &parts)
+{
+    if (m_failed) {
+        return; // What comes next builds on this.
+    }
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QStringList words;
+    for (const Part &part : parts) {
+        QElapsedTimer waited;
+        waited.start();
+        bool done = part.done();
+        while (!done && waited.elapsed() < kPartDeadlineMs) {
+            pause(kLookIntervalMs);
+            done = part.done();
+        }
+        words += done ? part.words : u"NOT: "_s + part.words;
+        if (!done) {
+            m_failed = true;
+            break;
+        }
+    }
+    report(!m_failed, name, words.join(u"; "_s), elapsed.elapsed());
+    if (m_failed) {
+        std::printf("What can be read: %s", qUtf8Printable(m_client.reading()));
+    }
+    takePicture(name);
+}
+
+void Tour::report(bool ok, const QString &name, const QString &words, qint64 ms)
 {
     ++m_steps;
-    m_failures += ok ? 0 : 1;
     std::printf("%-4s %-16s %6lld ms  %s\n", ok ? "ok" : "FAIL", qUtf8Printable(name),
-                static_cast<long long>(ms), qUtf8Printable(seen));
+                static_cast<long long>(ms), qUtf8Printable(words));
     std::fflush(stdout);
 }
 
@@ -205,9 +240,13 @@ void Tour::takePicture(const QString &name)
 {
     pause(kSettleMs);
     const QString prefix = u"%1/%2-%3"_s.arg(m_pictures).arg(m_steps, 2, 10, QChar(u'0')).arg(name);
-    QGuiApplication::primaryScreen()->grabWindow(0).save(prefix + u".png"_s);
-    const QImage icon = m_host.icon();
-    if (!icon.isNull()) {
+    if (const QRect used = m_client.place(); !used.isEmpty()) {
+        const QPixmap screen = QGuiApplication::primaryScreen()->grabWindow(0);
+        screen.copy(used).save(prefix + u".png"_s);
+    }
+    const QImage icon = m_client.tray().icon();
+    if (!icon.isNull() && icon != m_icon) {
         icon.save(prefix + u"-icon.png"_s);
+        m_icon = icon;
     }
 }

@@ -17,7 +17,6 @@ int main(int argc, char **argv)
         pictures = arguments.takeAt(at + 1);
         arguments.removeAt(at);
     }
-    Tour tour(QCoreApplication::applicationDirPath() + u"/vantu-demo"_s,
-              QFileInfo(pictures).absoluteFilePath());
+    Tour tour(QCoreApplication::applicationDirPath(), QFileInfo(pictures).absoluteFilePath());
     return tour.run(arguments) ? 0 : 1;
 }
