@@ -69,7 +69,8 @@ void SplitRulesController::handleImport(const SplitRuleMutationInfo &info, const
     if (!error.isEmpty()) {
         const QString failure = ShellText::tr("Could not import split rules");
         const QString reason = error.trimmed();
-        m_notices.error(reason.isEmpty() ? failure : failure + u'\n' + reason, failure, Page::Mode);
+        // Not on the page: the editor, which is open over it, shows the reason itself.
+        m_notices.error(reason.isEmpty() ? failure : failure + u'\n' + reason, failure);
         Q_EMIT importFinished(reason.isEmpty() ? failure : reason);
         return;
     }

@@ -20,13 +20,14 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QShowEvent>
 #include <QStackedWidget>
@@ -76,6 +77,7 @@ MainWindow::MainWindow(AppState &state, GuiPreferences &preferences, Theme &them
 
     connect(&m_theme, &Theme::changed, this, &MainWindow::applyTheme);
     connect(&m_state, &AppState::runtimeChanged, this, &MainWindow::refreshFromState);
+    connect(qApp, &QApplication::focusChanged, this, &MainWindow::scrollToFocus);
     applyTheme();
     refreshFromState();
     showPage(static_cast<int>(Page::Vpn));
@@ -83,8 +85,9 @@ MainWindow::MainWindow(AppState &state, GuiPreferences &preferences, Theme &them
 
 MainWindow::~MainWindow()
 {
-    // Its end would be announced to a window that is no longer one.
+    // Their ends would be announced to a window that is no longer one.
     m_vpn->closeQuickEntry();
+    disconnect(qApp, nullptr, this, nullptr);
     memorylog::log(u"MainWindow destroyed"_s);
 }
 
@@ -318,8 +321,24 @@ void MainWindow::noteCatalogReceived()
     m_locations->applyCatalog();
 }
 
+void MainWindow::scrollToFocus(QWidget *old, QWidget *now)
+{
+    Q_UNUSED(old)
+    // Tab scrolls by itself; a screen reader gives the focus without it.
+    for (QWidget *each = now; each && isAncestorOf(each); each = each->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(each)) {
+            area->ensureWidgetVisible(now);
+        }
+    }
+}
+
 void MainWindow::setActivity(const OperationActivity &activity)
 {
+    // A new attempt overtakes what was said of the last one.
+    if (m_noticePasses && activity.hasBegunSince(m_activity)) {
+        m_notices->dismiss();
+    }
+    m_activity = activity;
     m_locations->setRefreshing(activity.refreshingLocations);
     m_mode->setChangeInFlight(activity.changingMode);
     m_mode->setSplitRulesLoading(activity.loadingSplitRules);
@@ -372,6 +391,7 @@ void MainWindow::refreshFromState()
 
 void MainWindow::showNotice(const QString &message, NoticeKind kind, int timeoutMs)
 {
+    m_noticePasses = timeoutMs > 0;
     m_notices->showMessage(message, noticeKindName(kind), timeoutMs);
 }
 

@@ -155,6 +155,7 @@ private:
     void offerPrimaryAction();
     void publishShowingPlaces();
     void publishSettingsVisible();
+    void scrollToFocus(QWidget *old, QWidget *now);
     void switchPage(Page page);
     void leaveScreen();
     void openVendorPage(const QString &path);
@@ -170,6 +171,8 @@ private:
     bool m_exitAllowed = false;
     bool m_showingPlaces = false;
     bool m_settingsVisible = false;
+    bool m_noticePasses = false; ///< The last notice goes by itself after a while.
+    OperationActivity m_activity;
     /// The window was shown and the keyboard is to go to the main button, once it can.
     bool m_offerPrimary = false;
 

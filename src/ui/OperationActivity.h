@@ -11,5 +11,16 @@ struct OperationActivity
     bool loadingSplitRules = false;
     bool refreshingLocations = false;
 
+    /// Something has begun since `before`.
+    bool hasBegunSince(const OperationActivity &before) const
+    {
+        return (changingMode && !before.changingMode) ||
+               (changingSettings && !before.changingSettings) ||
+               (checkingUpdate && !before.checkingUpdate) ||
+               (signingInOrOut && !before.signingInOrOut) ||
+               (openingRenewal && !before.openingRenewal) ||
+               (refreshingLocations && !before.refreshingLocations);
+    }
+
     bool operator==(const OperationActivity &) const = default;
 };

@@ -288,7 +288,7 @@ void TestShell::leaving()
     ShellFixture fixture;
     fixture.answer(kStatus, status("disconnected", "proxy"));
     QVERIFY(fixture.start());
-    QApplication::setActiveWindow(fixture.window());
+    QVERIFY(QTest::qWaitForWindowActive(fixture.window()));
     connect(&fixture.shell(), &Shell::exitRequested, qApp, &QCoreApplication::quit);
     QTimer::singleShot(0, qApp, [&] { end(fixture.shell()); });
     QTimer::singleShot(5000, &fixture.shell(), [] { QCoreApplication::exit(99); });

@@ -27,7 +27,7 @@ constexpr int kMargin = 6;
 constexpr int kCloseSize = 28;
 constexpr int kCloseIconSize = 16;
 /// Longer messages go on in the tool tip, so that the banner stays a banner.
-constexpr int kMaximumLines = 3;
+constexpr int kMaximumLines = 4;
 
 /// Lets screen readers know the banner for what it is.
 QAccessibleInterface *describeHost(const QString &className, QObject *object)
