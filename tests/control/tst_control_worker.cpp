@@ -4,7 +4,6 @@
 
 #include <QHash>
 #include <QLoggingCategory>
-#include <QMetaMethod>
 #include <QPointer>
 #include <QTemporaryFile>
 #include <QTest>
@@ -118,7 +117,6 @@ class ControlWorkerTest final : public QObject
 private Q_SLOTS:
     void initTestCase() { qputenv("QT_FORCE_STDERR_LOGGING", "1"); }
 
-    void listsSlotsInOrder();
     void answersEveryRequest();
     void keepsTheOrderOfALane();
     void runsLanesSideBySide();
@@ -126,29 +124,11 @@ private Q_SLOTS:
     void cancelsQueuedConnectOnly();
     void ignoresLateCancel();
     void cancelsCurrentRequest();
-    void dropsRequestsAfterShutDown();
     void shutsDownWithEndlessRequests();
     void dropsStaleAnswers();
     void usesOwnTimeout();
     void keepsSecretsOutOfLogs();
 };
-
-void ControlWorkerTest::listsSlotsInOrder()
-{
-    const QMetaObject &meta = ControlWorker::staticMetaObject;
-    QByteArrayList declared;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        if (meta.method(i).methodType() == QMetaMethod::Slot) {
-            declared.append(meta.method(i).name());
-        }
-    }
-    QByteArrayList routed;
-    for (int i = 0; i < kRequestCount; ++i) {
-        routed.append(requestRoute(Request(i)).method);
-    }
-    QCOMPARE(declared, routed);
-    QCOMPARE(routed.size(), 42);
-}
 
 void ControlWorkerTest::answersEveryRequest()
 {
@@ -250,22 +230,6 @@ void ControlWorkerTest::cancelsCurrentRequest()
     QTRY_COMPARE(s.answers.all, (QList<Answers::Answer>{{canceled, kCanceled}}));
     const quint64 next = s.link.send(Request::FetchUser);
     QTRY_COMPARE(s.answers.all, (QList<Answers::Answer>{{canceled, kCanceled}, {next, {}}}));
-}
-
-void ControlWorkerTest::dropsRequestsAfterShutDown()
-{
-    ScriptedDaemon daemon;
-    ControlWorker worker(u' ' + daemon.socketName() + u' ');
-    Answers answers({&worker, &worker, &worker}); // Same thread: answers come at once.
-    worker.fetchStatus(1, 5000);
-    QCOMPARE(answers.all.size(), 3);
-    QVERIFY(!worker.isStopped());
-    worker.shutDown();
-    QVERIFY(worker.isStopped());
-    worker.fetchStatus(2, 5000);
-    worker.connectRuntime(3, 0);
-    QCOMPARE(answers.all.size(), 3);
-    QCOMPARE(daemon.requests().size(), 1);
 }
 
 void ControlWorkerTest::shutsDownWithEndlessRequests()

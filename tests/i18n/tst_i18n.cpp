@@ -1,4 +1,3 @@
-#include "Language.h"
 #include "TranslationManager.h"
 
 #include <QDir>

@@ -91,7 +91,7 @@ struct Fixture
     {
         (new QVBoxLayout(&window))->addWidget(page);
         window.show();
-        QApplication::setActiveWindow(&window);
+        QVERIFY(QTest::qWaitForWindowActive(&window));
     }
     void show(const ModeInfo &mode)
     {

@@ -418,7 +418,7 @@ void TestTrayApp::panelThatNeverTellsTheMenuClosed()
 {
     Desk desk;
     QVERIFY(desk.start());
-    for (const QByteArray tunnel : {"connected", "disconnected"}) {
+    for (const auto *tunnel : {"connected", "disconnected"}) {
         m_host.aboutToShow(0);
         QVERIFY(desk.poll(status(tunnel)));
         // It opens the menu again, and sees what is so now.

@@ -4,7 +4,6 @@
 #include "QuickEntryContent.h"
 #include "QuickEntryRow.h"
 
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
