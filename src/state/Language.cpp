@@ -79,6 +79,18 @@ QString matchingKey(const QString &code)
     return key.split(u'-', Qt::SkipEmptyParts).join(u'-');
 }
 
+/// "pt-Latn-PT" gives "pt-PT": newer releases of Qt tell a language first with the
+/// script that its region implies anyway, and no listed code has both.
+QString withoutImpliedScript(const QString &tag)
+{
+    const QStringList parts = tag.split(u'-');
+    if (parts.size() != 3) {
+        return tag;
+    }
+    QString shorter = parts.constFirst() + u'-' + parts.constLast();
+    return QLocale(shorter).script() == QLocale(tag).script() ? shorter : tag;
+}
+
 } // namespace
 
 namespace language {
@@ -114,7 +126,7 @@ QString systemCode()
     const QLocale system = QLocale::system();
     const QStringList candidates = system.uiLanguages() + QStringList{system.name()};
     for (const QString &candidate : candidates) {
-        QString resolved = resolve(candidate);
+        QString resolved = resolve(withoutImpliedScript(candidate));
         if (!resolved.isEmpty()) {
             return resolved;
         }
