@@ -5,8 +5,10 @@
 #include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
 #include <QDateTime>
+#include <QEventLoop>
 #include <QtEndian>
 
 using namespace Qt::StringLiterals;
@@ -188,8 +190,15 @@ QDBusMessage TrayHost::call(const QString &item, const QString &path, const QStr
     }
     QDBusMessage message = QDBusMessage::createMethodCall(service, path, interface, method);
     message.setArguments(arguments);
-    // Icons of this process answer on this thread.
-    return m_bus.call(message, QDBus::BlockWithGui, kCallTimeoutMs);
+    // Icons of this process answer on this thread, so the wait handles events. Qt's own
+    // BlockWithGui would wait for ever when the answer is there before its loop runs.
+    const QDBusPendingCallWatcher answer(m_bus.asyncCall(message, kCallTimeoutMs));
+    QEventLoop wait;
+    QObject::connect(&answer, &QDBusPendingCallWatcher::finished, &wait, &QEventLoop::quit);
+    if (!answer.isFinished()) {
+        wait.exec(QEventLoop::ExcludeUserInputEvents);
+    }
+    return answer.reply();
 }
 
 QDBusMessage TrayHost::callMenu(const QString &item, const QString &method,
