@@ -1,5 +1,6 @@
-// What a start and a quiet minute of the client cost, beside a bare tray icon. Both
-// programs are started in turns within one run, so that they meet the same machine.
+// What a start and a quiet minute of the client cost, beside a bare tray icon, and how
+// soon it ends. Both programs are started in turns within one run, so that they meet the
+// same machine.
 
 #include "ProcessCost.h"
 #include "TrayHost.h"
@@ -9,6 +10,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QGuiApplication>
+#include <QLocalSocket>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -24,6 +26,7 @@ constexpr int kDefaultRounds = 15;
 constexpr int kDefaultIdleSeconds = 60;
 constexpr int kSettleMs = 3000;
 constexpr int kDeadlineMs = 10000;
+constexpr int kQuitRounds = 5;
 
 void pause(int ms)
 {
@@ -105,6 +108,40 @@ void printIdle(TrayHost &host, const char *name, const QString &program, int sec
     end(host, *process);
 }
 
+/// Ends the client by SIGTERM while every request that it has sent waits for an answer.
+/// The daemon stays that slow, so this comes last.
+void printQuit(TrayHost &host, const QString &client, const QString &daemonControl)
+{
+    QLocalSocket daemon;
+    daemon.connectToServer(daemonControl);
+    const auto tell = [&](const char *command) {
+        daemon.write(command);
+        return daemon.waitForReadyRead() && !daemon.readAll().isEmpty();
+    };
+    QList<double> took;
+    for (int round = 0; round < kQuitRounds; ++round) {
+        double ms = 0;
+        const bool quick = tell("set latency 0\n");
+        const auto process = startUntilRegistered(host, client, ms);
+        pause(kSettleMs);
+        if (!quick || !process || !tell("set latency 60000\n") || !host.click(u"Connect"_s)) {
+            std::fprintf(stderr, "could not set up the hung connect\n");
+            return;
+        }
+        pause(200);
+        QElapsedTimer elapsed;
+        elapsed.start();
+        process->terminate();
+        while (process->state() != QProcess::NotRunning && elapsed.elapsed() < kDeadlineMs) {
+            pause(1);
+        }
+        took << static_cast<double>(elapsed.nsecsElapsed()) / 1e6;
+        end(host, *process);
+    }
+    std::printf("client       ends %.0f ms after SIGTERM with a hung connect, at most %.0f ms\n",
+                median(took), *std::max_element(took.cbegin(), took.cend()));
+}
+
 double medianOf(const QList<Run> &runs, double Run::*member)
 {
     QList<double> values;
@@ -132,6 +169,7 @@ bool prepareDemo(const QString &directory, QProcess &daemon)
     }
     qputenv("VANTU_DEMO_DIRECTORY", QFile::encodeName(directory));
     qputenv("VANTU_DEMO_DAEMON_PID", QByteArray::number(daemon.processId()));
+    qputenv("VANTU_DEMO_KEEP_DAEMON", "1");
     pause(500);
     return true;
 }
@@ -173,6 +211,7 @@ int main(int argc, char **argv)
         printIdle(host, "bare icon", bare, idleSeconds);
         printIdle(host, "client", client, idleSeconds);
     }
+    printQuit(host, client, directory.path() + u"/simd.sock"_s);
     daemon.terminate();
     daemon.waitForFinished();
     return 0;
