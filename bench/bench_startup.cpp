@@ -47,23 +47,35 @@ double median(QList<double> values)
     return values.isEmpty() ? 0 : values.at(values.size() / 2);
 }
 
-/// Starts `program` and waits for its icon; empty when none came.
-std::unique_ptr<QProcess> startUntilRegistered(TrayHost &host, const QString &program, double &ms)
+std::unique_ptr<QProcess> start(const QString &program)
 {
     auto process = std::make_unique<QProcess>();
     process->setStandardOutputFile(QProcess::nullDevice());
     process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    QElapsedTimer elapsed;
-    elapsed.start();
     process->start(program, QStringList());
+    return process;
+}
+
+/// Waits for an icon, and returns how long; negative when none came.
+double msUntilRegistered(TrayHost &host, const QElapsedTimer &elapsed)
+{
     while (host.items().isEmpty()) {
         if (elapsed.elapsed() > kDeadlineMs) {
-            return {};
+            return -1;
         }
         pause(1);
     }
-    ms = static_cast<double>(elapsed.nsecsElapsed()) / 1e6;
-    return process;
+    return static_cast<double>(elapsed.nsecsElapsed()) / 1e6;
+}
+
+/// Starts `program` and waits for its icon; empty when none came.
+std::unique_ptr<QProcess> startUntilRegistered(TrayHost &host, const QString &program, double &ms)
+{
+    QElapsedTimer elapsed;
+    elapsed.start();
+    auto process = start(program);
+    ms = msUntilRegistered(host, elapsed);
+    return ms < 0 ? std::unique_ptr<QProcess>() : std::move(process);
 }
 
 void end(TrayHost &host, QProcess &process)
@@ -106,6 +118,28 @@ void printIdle(TrayHost &host, const char *name, const QString &program, int sec
                 static_cast<long long>(after.wakeUps - before.wakeUps));
     std::fflush(stdout);
     end(host, *process);
+}
+
+/// A panel that comes after the client, and one that comes back from the dead.
+void printPanel(TrayHost &host, const QString &client)
+{
+    QList<double> took;
+    host.stop();
+    const auto process = start(client);
+    for (int coming = 0; coming < 2; ++coming) {
+        pause(kSettleMs);
+        QElapsedTimer elapsed;
+        elapsed.start();
+        if (!host.start()) {
+            return;
+        }
+        took << msUntilRegistered(host, elapsed);
+        host.stop();
+    }
+    host.start();
+    end(host, *process);
+    std::printf("client       registered %.0f ms after a late panel, %.0f ms after one that died\n",
+                took.at(0), took.at(1));
 }
 
 /// Ends the client by SIGTERM while every request that it has sent waits for an answer.
@@ -211,6 +245,7 @@ int main(int argc, char **argv)
         printIdle(host, "bare icon", bare, idleSeconds);
         printIdle(host, "client", client, idleSeconds);
     }
+    printPanel(host, client);
     printQuit(host, client, directory.path() + u"/simd.sock"_s);
     daemon.terminate();
     daemon.waitForFinished();
