@@ -344,9 +344,11 @@ bool isWaiting(Phase phase)
 
 qint64 offeredVersionNum(const UpdateInfo &info)
 {
-    const qint64 number = qRound64(info.versionNum);
-    const bool named = info.updateAvailable && number >= 1 && !info.versionCode.isEmpty();
-    return named ? number : 0;
+    // Doubles count in ones up to 2^53; what lies beyond numbers no release.
+    constexpr double kLast = 9007199254740992.0;
+    const bool counts = info.versionNum >= 0 && info.versionNum <= kLast;
+    const bool isNamed = info.updateAvailable && counts && !info.versionCode.isEmpty();
+    return isNamed ? qRound64(info.versionNum) : 0;
 }
 
 QString noteText(Note note, const QString &error)

@@ -20,6 +20,9 @@ Q_LOGGING_CATEGORY(lcControl, "vantu.control", QtInfoMsg)
 constexpr QLatin1StringView kCanceled{"control request canceled"};
 constexpr QLatin1StringView kInvalidResponse{"invalid control response"};
 
+/// What people are given to read at most, in UTF-16 units; a body may be a whole book.
+constexpr qsizetype kMaxErrorText = 1000;
+
 /// The socket's own words, when it has any: a fresh socket's "Unknown error" and
 /// the end of one waiting slice say nothing about the request.
 QString socketErrorText(const QLocalSocket &socket)
@@ -28,6 +31,15 @@ QString socketErrorText(const QLocalSocket &socket)
     const bool isMeaningful =
         error != QLocalSocket::UnknownSocketError && error != QLocalSocket::SocketTimeoutError;
     return isMeaningful ? socket.errorString().trimmed() : QString();
+}
+
+QString shortened(QString text)
+{
+    if (text.size() > kMaxErrorText) {
+        text.truncate(kMaxErrorText - (text.at(kMaxErrorText - 1).isLowSurrogate() ? 2 : 1));
+        text += u'\u2026';
+    }
+    return text;
 }
 
 QByteArray frameRequest(const QByteArray &method, const QString &path, const QByteArray &body)
@@ -200,14 +212,14 @@ QString errorTextFromResponse(const HttpResponse &response)
 {
     const QJsonObject object = QJsonDocument::fromJson(response.body).object();
     for (const QLatin1StringView key : {"error"_L1, "message"_L1, "last_error"_L1}) {
-        QString text = object.value(key).toString().trimmed();
+        const QString text = object.value(key).toString().trimmed();
         if (!text.isEmpty()) {
-            return text;
+            return shortened(text);
         }
     }
-    QString text = QString::fromUtf8(response.body).trimmed();
+    const QString text = QString::fromUtf8(response.body).trimmed();
     if (!text.isEmpty()) {
-        return text;
+        return shortened(text);
     }
     return response.status >= 1 ? u"control request failed with HTTP %1"_s.arg(response.status)
                                 : u"control request failed"_s;

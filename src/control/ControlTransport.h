@@ -27,8 +27,8 @@ std::optional<HttpResponse> performRequest(const QString &socketName, const QByt
                                            int timeoutMs, QString &errorText,
                                            const std::atomic_bool *canceled = nullptr);
 
-/// What a response outside 200..299 tells the user: what the daemon says, else
-/// the status.
+/// What a response outside 200..299 tells the user: what the daemon says, cut off
+/// where nobody would read on, else the status.
 QString errorTextFromResponse(const HttpResponse &response);
 
 /// What a connection that could not be made tells the user.

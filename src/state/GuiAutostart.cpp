@@ -95,8 +95,9 @@ bool GuiAutostart::writeEntry(const QString &path, const QString &executable, QS
     const QByteArray text = QString(kEntryText).arg(quotedForExec(executable), executable).toUtf8();
 
     QSaveFile file(path);
+    // Flushed by hand: a commit takes no notice of what the disk had no room for.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text) || file.write(text) != text.size() ||
-        !file.commit()) {
+        !file.flush() || !file.commit()) {
         return fail(error, tr("Could not update Vantu login startup."));
     }
     if (!QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner)) {

@@ -4,6 +4,7 @@
 
 #include <QDebug>
 #include <QFile>
+#include <QSaveFile>
 
 #include <algorithm>
 
@@ -126,6 +127,30 @@ void keepDamagedFile(const QString &fileName)
     } else {
         qWarning() << "GuiPreferences: the settings file is damaged and could not be copied to"
                    << copy;
+    }
+}
+
+QByteArray contentOf(const QString &fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The text of a settings file with this many keys: each has a line, which ends.
+bool isWhole(const QByteArray &text, qsizetype keys)
+{
+    const QByteArrayList lines = text.split('\n');
+    const auto assigned = std::count_if(lines.cbegin(), lines.cend(),
+                                        [](const QByteArray &line) { return line.contains('='); });
+    return assigned == keys && lines.constLast().isEmpty();
+}
+
+void putBack(const QString &fileName, const QByteArray &text)
+{
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush() ||
+        !file.commit()) {
+        qWarning() << "GuiPreferences: the settings file could not be put back";
     }
 }
 
@@ -267,15 +292,24 @@ bool GuiPreferences::persist()
     // A QSettings keeps its first error for ever; only a fresh one tells how this
     // write goes. It takes over what is still unwritten, since it is opened while
     // the old one lives.
+    const QString fileName = m_settings->fileName();
+    const QByteArray before = contentOf(fileName);
     if (m_settings->status() != QSettings::NoError) {
         m_settings = openSettings();
     }
     m_settings->sync();
-    if (m_settings->status() != QSettings::NoError) {
-        qWarning() << "GuiPreferences: failed to persist settings, status" << m_settings->status();
-        return false;
+    QSettings::Status status = m_settings->status();
+    // On a full disk a QSettings replaces the file by as much of the new one as went in,
+    // maybe nothing, and calls that a success.
+    const QByteArray after = contentOf(fileName);
+    if (after != before && !isWhole(after, m_settings->allKeys().size())) {
+        putBack(fileName, before);
+        status = QSettings::AccessError;
     }
-    return true;
+    if (status != QSettings::NoError) {
+        qWarning() << "GuiPreferences: failed to persist settings, status" << status;
+    }
+    return status == QSettings::NoError;
 }
 
 bool GuiPreferences::write(QLatin1StringView key, const QVariant &value)

@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "GuiPreferences.h"
 #include "MemoryLog.h"
+#include "PlainText.h"
 #include "SharedTheme.h"
 #include "Theme.h"
 #include "UpdateDialog.h"
@@ -212,12 +213,13 @@ bool WindowController::launchFile(const QString &path)
 void WindowController::openLogDirectory(const ConfigPaths &paths)
 {
     const QString directory = paths.logDir.trimmed();
+    const QString shown = plaintext::singleLine(directory);
     if (directory.isEmpty()) {
         showError(tr("Log directory is unavailable"));
     } else if (!QDir(directory).exists()) {
-        showError(tr("Log directory does not exist: %1").arg(directory));
+        showError(tr("Log directory does not exist: %1").arg(shown));
     } else if (!m_linkOpener(QUrl::fromLocalFile(directory))) {
-        showError(tr("Could not open log directory: %1").arg(directory));
+        showError(tr("Could not open log directory: %1").arg(shown));
     }
 }
 

@@ -287,6 +287,8 @@ void ControlHttpTest::explainsFailedResponses_data()
     row("plain text", 503, " down \xc3\xa4 \n", u"down ä"_s);
     row("empty", 502, "", u"control request failed with HTTP 502"_s);
     row("blank, no status", 0, " \n", u"control request failed"_s);
+    QTest::newRow("book") << 500 << QByteArray(998, 'x') + "\xf0\x9f\x98\x80 and so on"
+                          << QString(998, u'x') + u'\u2026';
 }
 
 void ControlHttpTest::explainsFailedResponses()

@@ -7,9 +7,13 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/resource.h>
+
+#include <csignal>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -166,6 +170,26 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(folder) && QDir().rename(folder + u".away"_s, folder));
         QVERIFY(preferences.setLaunchAtLogin(true));
         QVERIFY(contentOf(iniPath()).contains("showOnLaunch=false"));
+    }
+
+    void fullDisk()
+    {
+        GuiPreferences preferences;
+        QVERIFY(preferences.setLaunchAtLogin(true));
+        const QByteArray whole = contentOf(iniPath());
+        const QString tooLong(1000, u'x');
+        const GuiAutostart autostart(m_dir->path(), u'/' + tooLong);
+        // No file grows beyond some bytes from here on.
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit usual{};
+        ::getrlimit(RLIMIT_FSIZE, &usual);
+        const auto restore = qScopeGuard([&usual] { ::setrlimit(RLIMIT_FSIZE, &usual); });
+        const rlimit full{500, usual.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &full);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"failed to persist settings"_s));
+        QVERIFY(!preferences.setRecentSearches({tooLong}));
+        QCOMPARE(contentOf(iniPath()), whole);
+        QVERIFY(!autostart.reconcile(true, nullptr) && !QFile::exists(autostart.entryPath()));
     }
 
     void recentActivity()
