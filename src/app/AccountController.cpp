@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "NoticeSink.h"
 #include "RequestLink.h"
+#include "RuntimeFacts.h"
 #include "ServiceCompatibility.h"
 #include "ShellText.h"
 
@@ -33,7 +34,7 @@ void AccountController::setBusy(bool busy)
 
 void AccountController::storeRuntime(const RuntimeInfo &info)
 {
-    if (!info.daemonState.isEmpty() || !info.tunnelState.isEmpty()) {
+    if (facts::tellsState(info)) {
         m_parts.state.setRuntime(info);
     }
 }
@@ -108,10 +109,7 @@ void AccountController::handleLogout(quint64 requestId, const RuntimeInfo &info,
     setBusy(false);
     QString failure;
     if (!error.isEmpty()) {
-        failure = error.trimmed();
-        if (failure.isEmpty()) {
-            failure = ShellText::tr("Could not sign out");
-        }
+        failure = NoticeSink::wording(error, ShellText::tr("Could not sign out"));
         if (m_origin == OperationOrigin::Window) {
             m_parts.notices.error(failure, failure, Page::Account);
         }

@@ -8,22 +8,6 @@
 #include "ShellText.h"
 #include "UpdateController.h"
 
-namespace {
-
-/// An answer counts as news of the runtime only when it carries a state.
-bool carriesState(const RuntimeInfo &info)
-{
-    return !info.daemonState.isEmpty() || !info.tunnelState.isEmpty();
-}
-
-QString failureText(const QString &error, const QString &fallback)
-{
-    const QString trimmed = error.trimmed();
-    return trimmed.isEmpty() ? fallback : trimmed;
-}
-
-} // namespace
-
 ConnectController::ConnectController(Parts parts, QObject *parent)
     : QObject(parent)
     , m_parts(std::move(parts))
@@ -114,10 +98,11 @@ void ConnectController::handleConnect(quint64 requestId, ControlRequest request,
                                       const RuntimeInfo &info, const QString &error)
 {
     if (!error.isEmpty()) {
-        finish(requestId, {},
-               failureText(error, request == ControlRequest::ConnectRuntime
-                                      ? ShellText::tr("Could not connect")
-                                      : ShellText::tr("Could not connect to this location")));
+        finish(
+            requestId, {},
+            NoticeSink::wording(error, request == ControlRequest::ConnectRuntime
+                                           ? ShellText::tr("Could not connect")
+                                           : ShellText::tr("Could not connect to this location")));
         return;
     }
     finish(requestId, info, {});
@@ -127,7 +112,8 @@ void ConnectController::handleDisconnect(quint64 requestId, const RuntimeInfo &i
                                          const QString &error)
 {
     finish(requestId, info,
-           error.isEmpty() ? QString() : failureText(error, ShellText::tr("Could not disconnect")));
+           error.isEmpty() ? QString()
+                           : NoticeSink::wording(error, ShellText::tr("Could not disconnect")));
 }
 
 void ConnectController::begin(Kind kind, OperationOrigin origin, quint64 requestId,
@@ -144,7 +130,7 @@ void ConnectController::finish(quint64 requestId, const RuntimeInfo &info, const
     const Kind kind = m_kind;
     m_kind = Kind::None;
     m_label.clear();
-    if (failure.isEmpty() && carriesState(info)) {
+    if (failure.isEmpty() && facts::tellsState(info)) {
         m_parts.state.setRuntime(info);
     }
     if (!failure.isEmpty() && m_origin == OperationOrigin::Window) {

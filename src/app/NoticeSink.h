@@ -20,14 +20,20 @@ public:
     /// Stays until the user dismisses it.
     static constexpr int kUntilDismissed = 0;
 
+    /// What a failure says: the daemon's own words, or `fallback` where it gave none.
+    static QString wording(const QString &message, const QString &fallback)
+    {
+        const QString trimmed = message.trimmed();
+        return trimmed.isEmpty() ? fallback : trimmed;
+    }
+
     /// `message` may be a daemon's text; when it is blank, `fallback` is shown, and
     /// without one the words that the page has for it. With a `page`, the text also
     /// stays there until the page's next request.
     void error(const QString &message, const QString &fallback,
                std::optional<Page> page = std::nullopt)
     {
-        const QString trimmed = message.trimmed();
-        Q_EMIT failed(trimmed.isEmpty() ? fallback : trimmed, page);
+        Q_EMIT failed(wording(message, fallback), page);
     }
 
     void show(const QString &message, MainWindow::NoticeKind kind, int timeoutMs = kTimeoutMs)

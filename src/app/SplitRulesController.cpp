@@ -58,7 +58,7 @@ void SplitRulesController::handleRules(const SplitRulesInfo &rules, const QStrin
             m_notices.error(error, failure, Page::Mode);
         }
         // What is held is not to be edited in either case: it may be of the time before.
-        Q_EMIT loadFailed(error.trimmed().isEmpty() ? failure : error.trimmed());
+        Q_EMIT loadFailed(NoticeSink::wording(error, failure));
     }
     // Last, since who waits for the end then looks at what has come.
     setLoading(false);

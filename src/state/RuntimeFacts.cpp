@@ -8,14 +8,10 @@
 
 namespace {
 
-/// Compares as the daemon's words are meant: blanks around them and their case
-/// don't count.
-bool isOneOf(const QString &word, std::initializer_list<QLatin1StringView> words)
+bool isOneOf(const QString &text, std::initializer_list<QLatin1StringView> words)
 {
-    const QString trimmed = word.trimmed();
-    return std::any_of(words.begin(), words.end(), [&trimmed](QLatin1StringView candidate) {
-        return trimmed.compare(candidate, Qt::CaseInsensitive) == 0;
-    });
+    return std::any_of(words.begin(), words.end(),
+                       [&text](QLatin1StringView word) { return facts::isWord(text, word); });
 }
 
 bool namesNode(const NodeReference &reference)
@@ -53,10 +49,30 @@ NodeEntry entryFor(const NodeReference &reference, const QList<NodeEntry> &catal
 
 namespace facts {
 
+bool isWord(const QString &text, QLatin1StringView word)
+{
+    return QStringView(text).trimmed().compare(word, Qt::CaseInsensitive) == 0;
+}
+
+bool tellsState(const RuntimeInfo &runtime)
+{
+    return !runtime.daemonState.isEmpty() || !runtime.tunnelState.isEmpty();
+}
+
+bool reportsConnected(const RuntimeInfo &runtime)
+{
+    return isWord(runtime.tunnelState, wire::kStateConnected) ||
+           isWord(runtime.daemonState, wire::kStateConnected);
+}
+
+bool isPendingState(const QString &state)
+{
+    return isOneOf(state, {wire::kStateQueued, wire::kStateConnecting, wire::kStateRetrying});
+}
+
 bool isConnected(const RuntimeInfo &runtime)
 {
-    if (isOneOf(runtime.tunnelState, {wire::kStateConnected}) ||
-        isOneOf(runtime.daemonState, {wire::kStateConnected})) {
+    if (reportsConnected(runtime)) {
         return true;
     }
     if (!namesNode(runtime.connectedNode)) {
@@ -71,9 +87,8 @@ bool isConnected(const RuntimeInfo &runtime)
 
 bool isPending(const RuntimeInfo &runtime)
 {
-    const auto pendingStates = {wire::kStateQueued, wire::kStateConnecting, wire::kStateRetrying};
-    return !isConnected(runtime) && (isOneOf(runtime.tunnelState, pendingStates) ||
-                                     isOneOf(runtime.daemonState, pendingStates));
+    return !isConnected(runtime) &&
+           (isPendingState(runtime.tunnelState) || isPendingState(runtime.daemonState));
 }
 
 bool isSignedIn(const RuntimeInfo &runtime)
@@ -83,12 +98,12 @@ bool isSignedIn(const RuntimeInfo &runtime)
 
 bool isProxyMode(const ModeInfo &mode)
 {
-    return isOneOf(mode.transport, {wire::kTransportProxy});
+    return isWord(mode.transport, wire::kTransportProxy);
 }
 
 bool isVantuVPNMode(const ModeInfo &mode)
 {
-    return isOneOf(mode.transport, {wire::kTransportVantuVPN});
+    return isWord(mode.transport, wire::kTransportVantuVPN);
 }
 
 bool isSplit(const ModeInfo &mode)
@@ -96,7 +111,7 @@ bool isSplit(const ModeInfo &mode)
     // Older daemons name their split policies in several ways; all of them but
     // "global" divide traffic.
     return (isVantuVPNMode(mode) || isProxyMode(mode)) && !mode.policy.trimmed().isEmpty() &&
-           !isOneOf(mode.policy, {wire::kPolicyGlobal});
+           !isWord(mode.policy, wire::kPolicyGlobal);
 }
 
 NodeEntry effectiveSelected(const RuntimeInfo &runtime, const NodesInfo &nodes)
@@ -122,12 +137,12 @@ const KillSwitchInfo &effectiveKillSwitch(const AppState &state)
 bool isKillSwitchOn(const KillSwitchInfo &killSwitch)
 {
     return killSwitch.enabled || isLockdown(killSwitch) ||
-           isOneOf(killSwitch.mode, {wire::kKillSwitchOn});
+           isWord(killSwitch.mode, wire::kKillSwitchOn);
 }
 
 bool isLockdown(const KillSwitchInfo &killSwitch)
 {
-    return isOneOf(killSwitch.mode, {wire::kKillSwitchLockdown});
+    return isWord(killSwitch.mode, wire::kKillSwitchLockdown);
 }
 
 } // namespace facts

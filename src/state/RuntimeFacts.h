@@ -4,11 +4,28 @@
 #include "ModeRecords.h"
 #include "RuntimeRecords.h"
 
+#include <QLatin1StringView>
+#include <QString>
+
 class AppState;
 
 /// What the daemon's records mean. Every face of the program asks here, so that
 /// the tray and the window can never disagree about the connection.
 namespace facts {
+
+/// The daemon's words are compared as they are meant: blanks around them and their case
+/// don't count.
+bool isWord(const QString &text, QLatin1StringView word);
+
+/// The record says how the daemon is. Answers to changes may come without that, and then
+/// are no news of it.
+bool tellsState(const RuntimeInfo &runtime);
+
+/// One of the state fields says so in as many words.
+bool reportsConnected(const RuntimeInfo &runtime);
+
+/// The word of a state field for a connection on the way.
+bool isPendingState(const QString &state);
 
 /// The connection is up: a state field says so, or an active node connection is
 /// reported. In a VPN mode a tunnel that the daemon calls down is never counted

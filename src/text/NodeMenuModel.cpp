@@ -19,17 +19,6 @@ constexpr qint64 kDay = 24 * kHour;
 /// The daemon writes the zero time of its own clock for "never".
 constexpr int kEarliestYear = 2000;
 
-bool isWord(const QString &text, QLatin1StringView word)
-{
-    return text.trimmed().compare(word, Qt::CaseInsensitive) == 0;
-}
-
-bool reportsConnected(const RuntimeInfo &runtime)
-{
-    return isWord(runtime.tunnelState, wire::kStateConnected) ||
-           isWord(runtime.daemonState, wire::kStateConnected);
-}
-
 } // namespace
 
 QString NodeMenuModel::joinedName(const QString &first, const QString &second)
@@ -122,14 +111,14 @@ QStringList NodeMenuModel::allTags(const NodeEntry &node)
 
 bool NodeMenuModel::isFavouritesTab(const NodeGroupTab &tab)
 {
-    return isWord(tab.groupType, wire::kGroupTypeFavorite);
+    return facts::isWord(tab.groupType, wire::kGroupTypeFavorite);
 }
 
 bool NodeMenuModel::isFavouritesGroup(const QString &kind, const NodeGroup &group)
 {
-    return isWord(kind, wire::kGroupTypeFavorite) &&
-           (isWord(group.code, "fav"_L1) || isWord(group.code, "favorite"_L1) ||
-            isWord(group.name, "favorites"_L1));
+    return facts::isWord(kind, wire::kGroupTypeFavorite) &&
+           (facts::isWord(group.code, "fav"_L1) || facts::isWord(group.code, "favorite"_L1) ||
+            facts::isWord(group.name, "favorites"_L1));
 }
 
 NodeEntry NodeMenuModel::currentNode(const RuntimeInfo &runtime, const NodesInfo &nodes)
@@ -152,7 +141,7 @@ QString NodeMenuModel::locationLine(const RuntimeInfo &runtime, const NodesInfo 
 {
     const QString text = labelOrNone(currentNode(runtime, nodes));
     const QDateTime since = connectedSince(runtime);
-    if (!reportsConnected(runtime) || !since.isValid()) {
+    if (!facts::reportsConnected(runtime) || !since.isValid()) {
         return TrayMenuText::location(text);
     }
     return TrayMenuText::locationSince(text, duration(since.secsTo(now)));

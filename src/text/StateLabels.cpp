@@ -59,13 +59,6 @@ QString findWord(const std::array<StateWord, Size> &table, const QString &state)
     return word == table.end() ? QString{} : word->text();
 }
 
-bool isPendingState(const QString &state)
-{
-    const QString word = state.trimmed().toLower();
-    return word == wire::kStateQueued || word == wire::kStateConnecting ||
-           word == wire::kStateRetrying;
-}
-
 /// "Global" and "Split" as the tray's menu has them.
 QString policyWord(bool split)
 {
@@ -93,8 +86,8 @@ QString connectionState(const RuntimeInfo &runtime)
         return TrayMenuText::connected();
     }
     if (facts::isPending(runtime)) {
-        return connectionState(isPendingState(runtime.tunnelState) ? runtime.tunnelState
-                                                                   : runtime.daemonState);
+        return connectionState(facts::isPendingState(runtime.tunnelState) ? runtime.tunnelState
+                                                                          : runtime.daemonState);
     }
     return connectionState(runtime.tunnelState.trimmed().isEmpty() ? runtime.daemonState
                                                                    : runtime.tunnelState);
