@@ -141,7 +141,7 @@ std::optional<int> claimName(GuiSingleInstance &instance, const Switches &switch
 
 /// Waits for the panel that a login start may come too early for, since without one and
 /// without a window the program leaves. Returns whether the user launched the program,
-/// too, in the meantime.
+/// too, in the meantime, which ends the wait: there will be a window.
 bool waitForPanel(GuiSingleInstance &instance, SignalQuit &endSignals)
 {
     TrayHostWatch hosts;
@@ -152,6 +152,7 @@ bool waitForPanel(GuiSingleInstance &instance, SignalQuit &endSignals)
     bool isActivated = false;
     QObject::connect(&instance, &GuiSingleInstance::activateRequested, &loop,
                      [&isActivated] { isActivated = true; });
+    QObject::connect(&instance, &GuiSingleInstance::activateRequested, &loop, &QEventLoop::quit);
     QObject::connect(&hosts, &TrayHostWatch::hostAppeared, &loop, &QEventLoop::quit);
     QObject::connect(&endSignals, &SignalQuit::requested, &loop, &QEventLoop::quit);
     QTimer::singleShot(kPanelWait, &loop, &QEventLoop::quit);

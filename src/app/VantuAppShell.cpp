@@ -113,10 +113,11 @@ void VantuAppShell::quit()
 
 bool VantuAppShell::eventFilter(QObject *watched, QEvent *event)
 {
-    // The end of the session too quits by closing the windows first, and stops at one
-    // that refuses. Nothing is left behind if the user calls that end off before.
+    // The end of the session too quits by closing the windows first, dialogs above all,
+    // and stops at one that refuses or asks about edits. The user has been asked before
+    // whether it shall end.
     if (watched == qApp && event->type() == QEvent::Quit) {
-        m_windows->setExitAllowed(true);
+        m_windows->closeForExit();
     }
     return QObject::eventFilter(watched, event);
 }

@@ -50,7 +50,9 @@ LaunchToken::LaunchToken(const QByteArray &activation, const QByteArray &startup
 
 LaunchToken LaunchToken::fromEnvironment()
 {
-    return {qgetenv(kActivationVariable), qgetenv(kStartupVariable)};
+    const QByteArray activation = qgetenv(kActivationVariable);
+    const QByteArray startupId = qgetenv(kStartupVariable);
+    return {activation.isEmpty() ? startupId : activation, startupId};
 }
 
 QString LaunchToken::filePath(const QString &instanceName)

@@ -36,7 +36,8 @@ public:
     static void forgetOwn();
 
     bool isEmpty() const { return m_activation.isEmpty() && m_startupId.isEmpty(); }
-    /// For Wayland: XDG_ACTIVATION_TOKEN.
+    /// For Wayland: XDG_ACTIVATION_TOKEN, or else DESKTOP_STARTUP_ID, where launchers
+    /// built on GLib before 2.76 put their token.
     const QByteArray &activation() const { return m_activation; }
     /// For X11: DESKTOP_STARTUP_ID.
     const QByteArray &startupId() const { return m_startupId; }

@@ -75,12 +75,20 @@ bool TrayHostWatch::isTrayAvailable()
 
 bool TrayHostWatch::start()
 {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (m_isStarted || !bus.isConnected()) {
-        return m_isStarted;
+    if (!m_isStarted) {
+        m_isStarted = true;
+        QCoreApplication::instance()->installNativeEventFilter(this);
+        watchBus();
     }
-    m_isStarted = true;
-    QCoreApplication::instance()->installNativeEventFilter(this);
+    return QDBusConnection::sessionBus().isConnected() || x11session::isRunning();
+}
+
+void TrayHostWatch::watchBus()
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        return;
+    }
     auto *watcher =
         new QDBusServiceWatcher(kService, bus, QDBusServiceWatcher::WatchForRegistration, this);
     connect(watcher, &QDBusServiceWatcher::serviceRegistered, this,
@@ -89,7 +97,6 @@ bool TrayHostWatch::start()
     if (bus.interface()->isServiceRegistered(kService)) {
         handleWatcherAppeared();
     }
-    return true;
 }
 
 void TrayHostWatch::handleWatcherAppeared()

@@ -24,7 +24,8 @@ public:
     /// The same, and Qt can put an icon there.
     static bool isTrayAvailable();
 
-    /// Begins to wait; false without a session bus, where no tray is to be expected.
+    /// Begins to wait; false where no tray is to be expected, with neither a session bus
+    /// nor an X11 display.
     bool start();
 
 Q_SIGNALS:
@@ -37,6 +38,7 @@ private Q_SLOTS:
 
 private:
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
+    void watchBus();
     void handleWatcherAppeared();
 
     bool m_isStarted = false;

@@ -114,6 +114,11 @@ void endLaunch(xcb_connection_t *display, xcb_window_t root, xcb_window_t window
 
 } // namespace
 
+bool x11session::isRunning()
+{
+    return connection() != nullptr;
+}
+
 bool x11session::hasSystemTray()
 {
     xcb_connection_t *display = connection();

@@ -7,6 +7,9 @@
 /// nothing and nothing happens. For the GUI thread.
 namespace x11session {
 
+/// The desktop is one of X11's.
+bool isRunning();
+
 /// An old-style tray, which takes windows as icons, is there now.
 bool hasSystemTray();
 

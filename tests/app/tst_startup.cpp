@@ -185,6 +185,7 @@ void TestStartup::loginStartWithoutTray()
 {
     const auto login = client("launchAtLogin=true\nshowOnLaunch=false\n");
     login->set("DBUS_SESSION_BUS_ADDRESS", u"unix:path=/nowhere/bus"_s);
+    login->set("QT_QPA_PLATFORM", u"offscreen"_s);
     login->start({kAutostart});
     QTRY_VERIFY_WITH_TIMEOUT(login->ended(0), kStartMs);
 }
@@ -194,15 +195,15 @@ void TestStartup::loginStartWaitsForTray()
     const auto login = client("launchAtLogin=true\nshowOnLaunch=false\n");
     login->start({kAutostart});
     QTRY_VERIFY_WITH_TIMEOUT(isNameTaken(), kStartMs);
-    // The user launches it as well while the panel is awaited; then the panel comes.
+    QCOMPARE(screen(), m_blank);
+    // The user launches it as well and need not wait for the panel, which comes then.
     const auto second = client();
     second->start();
     QTRY_VERIFY_WITH_TIMEOUT(second->ended(0), kStartMs);
+    QTRY_VERIFY(screen() != m_blank);
     QVERIFY(login->isRunning());
-    QCOMPARE(screen(), m_blank);
     QVERIFY(m_host->start());
     QTRY_COMPARE_WITH_TIMEOUT(m_host->items().size(), 1, kStartMs);
-    QTRY_VERIFY(screen() != m_blank);
     QTRY_VERIFY(m_host->menu().find(u"Quit"_s));
     QVERIFY(m_host->click(u"Quit"_s));
     QTRY_VERIFY(login->ended(0));
@@ -273,7 +274,7 @@ void TestStartup::signalsQuit()
     const auto pid = static_cast<pid_t>(first->pid());
     QCOMPARE(::kill(pid, signal), 0);
     if (ignored) {
-        QTRY_COMPARE(m_host->toolTip(), u"Vantu: disconnected"_s);
+        QTRY_COMPARE(m_host->toolTip(), u"Vantu: connecting..."_s);
         QVERIFY(first->isRunning());
         ::kill(pid, SIGTERM);
     }

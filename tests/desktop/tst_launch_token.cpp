@@ -54,9 +54,10 @@ void TestLaunchToken::parts()
     qputenv("DESKTOP_STARTUP_ID", "s");
     qputenv("XDG_ACTIVATION_TOKEN", kept);
     QCOMPARE(LaunchToken::fromEnvironment().startupId(), "s");
-    QCOMPARE(LaunchToken::fromEnvironment().activation(), kept);
+    // Older launchers put the one token of a Wayland desktop into the other's place.
+    QCOMPARE(LaunchToken::fromEnvironment().activation(), kept.isEmpty() ? "s" : kept);
     LaunchToken::forgetOwn();
-    QVERIFY(LaunchToken::fromEnvironment().activation().isEmpty());
+    QCOMPARE(LaunchToken::fromEnvironment().activation(), "s");
 }
 
 void TestLaunchToken::leftOnceAndTakenOnce()
