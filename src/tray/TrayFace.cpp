@@ -6,6 +6,7 @@
 #include "ModeRequests.h"
 #include "PlainText.h"
 #include "RuntimeFacts.h"
+#include "TrayPanelMenu.h"
 
 #include <QAction>
 #include <QMenu>
@@ -71,6 +72,7 @@ void TrayFace::showIcon()
     connect(m_icon.get(), &QSystemTrayIcon::activated, this, &TrayFace::activated);
     m_icon->setToolTip(m_shown.toolTip);
     m_icon->setContextMenu(&m_menu.root());
+    updateMenu(); // It may have to be whole from now on.
     m_icon->show();
     Q_EMIT iconShown();
 }
@@ -115,7 +117,7 @@ void TrayFace::updateMenu()
     m_asCancel = m_shown.connectCancels;
     // A panel shows its own copy of the menu, which must be whole at any time; a popup
     // is filled when it opens.
-    if (m_watch.isExported()) {
+    if (panelmenu::isExported(m_menu.root())) {
         fillNodes();
         fillRegions();
     }
@@ -164,7 +166,7 @@ void TrayFace::handleClosed()
     if (m_dirty) {
         updateMenu();
     }
-    if (!m_watch.isExported()) {
+    if (!panelmenu::isExported(m_menu.root())) {
         releaseSubmenus();
     }
 }

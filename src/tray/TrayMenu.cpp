@@ -1,5 +1,7 @@
 #include "TrayMenu.h"
 
+#include "TrayPanelMenu.h"
+
 #include <QAction>
 #include <QActionGroup>
 #include <QCoreApplication>
@@ -211,11 +213,11 @@ private:
     QObject &m_owner;
 };
 
-void applyTo(QAction &action, const TrayEntryState &state)
+void applyTo(QAction &action, const TrayEntryState &state, QMenu &root)
 {
     // The setters return early where nothing changes, but for the data.
     if (!state.text.isEmpty()) {
-        action.setText(state.text);
+        action.setText(panelmenu::entryText(root, state.text));
     }
     if (action.data().toString() != state.data) {
         action.setData(state.data);
@@ -272,7 +274,7 @@ void TrayMenu::applyRange(const TrayMenuState &state, TrayEntry first, TrayEntry
     for (auto index = static_cast<std::size_t>(first); index <= static_cast<std::size_t>(last);
          ++index) {
         if (m_actions[index] != nullptr) {
-            applyTo(*m_actions[index], state.entries[index]);
+            applyTo(*m_actions[index], state.entries[index], *m_root);
         }
     }
 }

@@ -17,10 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isWord(const QString &text, QLatin1StringView word)
-{
-    return text.trimmed().compare(word, Qt::CaseInsensitive) == 0;
-}
+using facts::isWord;
 
 /// Derives one state; a class so that the facts that every rule asks for are found
 /// out once.
@@ -130,9 +127,12 @@ void Derivation::deriveStatus()
     m_menu[TrayEntry::RefreshStatus].enabled = m_condition.daemonAvailable && !m_condition.busy;
     m_menu[TrayEntry::OpenLogs].enabled = !m_condition.logsInFlight;
 
-    // A protection that nobody confirms any more is not shown.
-    m_menu.iconOn = m_live && m_connected;
-    if (m_live) {
+    // A protection that nobody confirms any more is not shown; while a connection is made
+    // or ended, which may take for ever, the daemon isn't asked.
+    m_menu.iconOn = m_live && m_connected && !m_condition.connectBusy;
+    if (m_live && m_condition.connectBusy) {
+        m_menu.toolTip = plaintext::messageText(title());
+    } else if (m_live) {
         m_menu.toolTip =
             plaintext::messageText(TrayMenuText::status(labels::connectionState(m_runtime)));
     } else if (m_condition.statusFailed ||

@@ -1,5 +1,7 @@
 #include "TrayMenuWatch.h"
 
+#include "TrayPanelMenu.h"
+
 #include <QApplication>
 
 #include <algorithm>
@@ -30,7 +32,6 @@ void TrayMenuWatch::handleAboutToShow()
     Q_EMIT opening();
     m_open = true;
     m_timeout.start();
-    QTimer::singleShot(0, this, [this] { m_exported = m_exported && !m_root.isVisible(); });
 }
 
 void TrayMenuWatch::handleAboutToHide()
@@ -56,7 +57,7 @@ void TrayMenuWatch::passHop(int hopsLeft)
 
 void TrayMenuWatch::entryChosen()
 {
-    if (m_exported) {
+    if (panelmenu::isExported(m_root)) {
         finish();
     }
 }

@@ -24,9 +24,6 @@ public:
     explicit TrayMenuWatch(QMenu &root, QObject *parent = nullptr);
 
     bool isOpen() const { return m_open; }
-    /// The desktop's panel shows the menu rather than Qt. Believed until a popup is
-    /// seen.
-    bool isExported() const { return m_exported; }
 
     /// An entry was chosen, which ends the open state of an exported menu.
     void entryChosen();
@@ -47,5 +44,4 @@ private:
     QMenu &m_root;
     QTimer m_timeout;
     bool m_open = false;
-    bool m_exported = true;
 };

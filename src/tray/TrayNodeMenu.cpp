@@ -2,6 +2,7 @@
 
 #include "NodeMenuModel.h"
 #include "TrayMenuText.h"
+#include "TrayPanelMenu.h"
 
 #include <QAction>
 #include <QMenu>
@@ -86,7 +87,7 @@ void TrayNodeMenu::rebuild()
 
 QMenu *TrayNodeMenu::makeSubmenu(const TrayNodeGroup &group, QMenu &parent)
 {
-    auto *menu = new QMenu(group.title, &parent);
+    auto *menu = new QMenu(panelmenu::entryText(m_menu, group.title), &parent);
     menu->setToolTipsVisible(true);
     for (const TrayNodeItem &item : group.items) {
         makeNode(item, *menu);
@@ -103,7 +104,7 @@ QMenu *TrayNodeMenu::makeSubmenu(const TrayNodeGroup &group, QMenu &parent)
 
 QAction *TrayNodeMenu::makeNode(const TrayNodeItem &item, QMenu &menu)
 {
-    auto *action = new QAction(item.text, &menu);
+    auto *action = new QAction(panelmenu::entryText(m_menu, item.text), &menu);
     action->setData(item.id);
     action->setCheckable(true);
     action->setToolTip(item.toolTip);

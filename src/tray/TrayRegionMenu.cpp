@@ -4,6 +4,7 @@
 #include "PlainText.h"
 #include "RegionNames.h"
 #include "TrayMenuText.h"
+#include "TrayPanelMenu.h"
 
 #include <QAction>
 #include <QMenu>
@@ -63,7 +64,8 @@ void TrayRegionMenu::rebuild()
         action->deleteLater();
     }
     for (const TrayRegion &region : std::as_const(m_regions)) {
-        QAction *action = m_menu.addAction(plaintext::menuText(region.name));
+        QAction *action =
+            m_menu.addAction(panelmenu::entryText(m_menu, plaintext::menuText(region.name)));
         action->setCheckable(true);
         action->setChecked(region.checked);
         connect(action, &QAction::triggered, this,

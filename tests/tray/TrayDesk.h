@@ -41,7 +41,7 @@ struct Desk
         daemon.setDefault("GET /v1/status", Reply::json(status("disconnected")));
         daemon.setDefault("GET /v1/nodes", Reply::json(kNodes));
         daemon.setDefault("GET /v1/nodes/groups", Reply::json(R"({"tabs":[]})"));
-        daemon.setDefault("GET /v1/user", Reply::json(R"({"email":"me@example.org"})"));
+        daemon.setDefault("GET /v1/user", Reply::json(R"({"email":"me_too@example.org"})"));
         daemon.setDefault("GET /v1/kill-switch", Reply::json(R"({"enabled":false})"));
     }
 
@@ -51,7 +51,7 @@ struct Desk
         tray.start();
         tray.setDaemonAvailable(true, {});
         return QTest::qWaitFor([this] {
-            return state.user().email == QLatin1String("me@example.org") &&
+            return state.user().email == QLatin1String("me_too@example.org") &&
                    !state.nodes().nodes.isEmpty() && state.killSwitch().known &&
                    daemon.routes().contains("GET /v1/nodes/groups");
         });
