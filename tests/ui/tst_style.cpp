@@ -333,6 +333,7 @@ void TestStyle::titleBars()
     theme.setAppearance(u"light"_s);
     QCOMPARE(seen.value(1), seen.constFirst());
     QCOMPARE(seen.constLast(), u"#f1f3f6#172033 light"_s);
+    QCOMPARE(dialog.palette(), theme.palette().toQPalette());
 }
 
 void TestStyle::stylesOnlyOnChange()
@@ -358,7 +359,7 @@ void TestStyle::icons()
     QCOMPARE(star.size(), QSize(48, 48));
     QCOMPARE(star.pixelColor(24, 24), QColor(Qt::red));
     QCOMPARE(star.pixelColor(1, 1).alpha(), 0);
-    for (const char *name : {"app.png", "app-16.png", "tray-on.png", "tray-off.png", "check.svg"}) {
+    for (const char *name : {"app.png", "app-16.png", "tray-on.png", "tray-off.png", "check.png"}) {
         QVERIFY2(!QImage(u":/icons/"_s + QLatin1StringView(name)).isNull(), name);
     }
     const QImage tray(u":/icons/tray-on.png"_s);

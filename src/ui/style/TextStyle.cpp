@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QStyle>
 #include <QWidget>
@@ -31,6 +32,8 @@ FontRule ruleOf(TextStyle style)
         return {1.0, QFont::Normal};
     case TextStyle::Note:
         return {0.92, QFont::Normal};
+    case TextStyle::Code:
+        break;
     }
     return {1.0, QFont::Normal};
 }
@@ -47,6 +50,9 @@ void setTextStyle(QWidget &widget, TextStyle style)
         font.setPointSizeF(font.pointSizeF() * rule.ratio);
     }
     font.setWeight(rule.weight);
+    if (style == TextStyle::Code) {
+        font.setFamilies(QFontDatabase::systemFont(QFontDatabase::FixedFont).families());
+    }
     widget.setFont(font);
 }
 

@@ -13,6 +13,7 @@ enum class TextStyle {
     Value,       ///< 1.1
     Body,        ///< 1.0
     Note,        ///< 0.92
+    Code,        ///< 1.0, letters of even width: for what is read letter by letter
 };
 
 /// Gives a label or button the font of a text style.

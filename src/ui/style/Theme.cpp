@@ -72,10 +72,11 @@ void Theme::attach(QWidget &dialog)
 
 void Theme::style(QWidget &widget) const
 {
-    // On the widget, never on the application: its palette tells the desktop's scheme.
-    widget.setPalette(m_palette.toQPalette());
     const QString sheet = themetemplate::render(m_palette, QGuiApplication::layoutDirection());
     if (sheet != widget.styleSheet()) {
         widget.setStyleSheet(sheet);
     }
+    // On the widget, never on the application: its palette tells the desktop's scheme. And
+    // after the sheet, since a sheet that goes puts back the palette which it had found.
+    widget.setPalette(m_palette.toQPalette());
 }
