@@ -3,10 +3,15 @@
 add_library(vantu_options INTERFACE)
 target_compile_features(vantu_options INTERFACE cxx_std_20)
 
+# A compiler that nobody here has tried may warn of more.
+option(VANTU_WERROR "Let warnings stop the build" ON)
 target_compile_options(vantu_options INTERFACE
-  -Wall -Wextra -Wpedantic -Werror
+  -Wall -Wextra -Wpedantic $<$<BOOL:${VANTU_WERROR}>:-Werror>
   -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
   -Woverloaded-virtual -Wcast-qual -Wformat=2 -Wextra-semi)
+
+# What a program was loaded with stays as it is.
+target_link_options(vantu_options INTERFACE LINKER:-z,relro LINKER:-z,now)
 
 target_compile_definitions(vantu_options INTERFACE
   QT_NO_CAST_FROM_ASCII
