@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>فشلت عملية الحساب</translation>
+        <translation>تعذّرت عملية الحساب</translation>
     </message>
     <message>
         <source>Enter account and password.</source>
@@ -258,7 +258,7 @@
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>فشلت العملية</translation>
+        <translation>تعذّر تنفيذ العملية</translation>
     </message>
     <message>
         <source>Cached locations may be stale. Refresh to update.</source>
@@ -404,7 +404,7 @@
     <name>ModePage</name>
     <message>
         <source>Mode operation failed</source>
-        <translation>فشلت عملية الوضع</translation>
+        <translation>تعذّر تبديل الوضع</translation>
     </message>
     <message>
         <source>Routing</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation>فشل تغيير الإعداد</translation>
+        <translation>تعذّر تغيير الإعداد</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -1554,27 +1554,27 @@
     </message>
     <message>
         <source>operation failed</source>
-        <translation>فشلت العملية</translation>
+        <translation>تعذّر تنفيذ العملية</translation>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>فشلت عملية الحساب</translation>
+        <translation>تعذّرت عملية الحساب</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>فشلت عملية الوضع</translation>
+        <translation>تعذّر تبديل الوضع</translation>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>فشلت عملية مفتاح الإيقاف</translation>
+        <translation>تعذّر تغيير مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Vantu: connect failed</source>
-        <translation>‏Vantu: فشل الاتصال</translation>
+        <translation>‏Vantu: تعذّر الاتصال</translation>
     </message>
     <message>
         <source>Vantu: disconnect failed</source>
-        <translation>‏Vantu: فشل قطع الاتصال</translation>
+        <translation>‏Vantu: تعذّر قطع الاتصال</translation>
     </message>
     <message>
         <source>Could not load nodes</source>
@@ -2038,7 +2038,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation>فشل الإصلاح</translation>
+        <translation>تعذّر الإصلاح</translation>
     </message>
     <message>
         <source>Could not load config paths</source>
@@ -2342,7 +2342,7 @@ Available version: %2</source>
     <name>WindowController</name>
     <message>
         <source>Operation failed</source>
-        <translation>فشلت العملية</translation>
+        <translation>تعذّر تنفيذ العملية</translation>
     </message>
     <message>
         <source>Could not open link</source>

@@ -242,7 +242,7 @@
     <name>LocationsPage</name>
     <message>
         <source>Clear search</source>
-        <translation>Suche löschen</translation>
+        <translation>Suche leeren</translation>
     </message>
     <message>
         <source>Locations will appear after the catalog loads.</source>
@@ -389,11 +389,11 @@
     </message>
     <message>
         <source>See all matches in Locations ›</source>
-        <translation>Alle Treffer in Standorte ansehen ›</translation>
+        <translation>Alle Treffer unter „Standorte“ ansehen ›</translation>
     </message>
     <message>
         <source>Browse in Locations</source>
-        <translation>In Standorte durchsuchen</translation>
+        <translation>Standorte durchsuchen</translation>
     </message>
     <message>
         <source>The setting holds until Vantu quits; it could not be saved.</source>
@@ -508,7 +508,7 @@
     </message>
     <message>
         <source>Tunnel %1 · Direct %2 · Block %3</source>
-        <translation>Tunnel %1 · Direkt %2 · Blockiert %3</translation>
+        <translation>Tunnel %1 · Direkt %2 · Blockieren %3</translation>
     </message>
     <message>
         <source>Auto</source>
@@ -1081,7 +1081,7 @@
     </message>
     <message>
         <source>While Kill Switch is off, traffic may leave unprotected if the VPN disconnects.</source>
-        <translation>Bei ausgeschaltetem Kill Switch kann Datenverkehr ungeschützt bleiben, wenn die VPN-Verbindung abbricht.</translation>
+        <translation>Bei ausgeschaltetem Kill Switch kann Datenverkehr ungeschützt ins Netz gelangen, wenn die VPN-Verbindung abbricht.</translation>
     </message>
     <message>
         <source>Turn Kill Switch off only if you understand the risk.</source>

@@ -157,23 +157,23 @@
     <name>GuiAutostart</name>
     <message>
         <source>Could not remove Vantu from login startup.</source>
-        <translation>无法将 Vantu 从开机启动项中移除。</translation>
+        <translation>无法将 Vantu 从登录启动项中移除。</translation>
     </message>
     <message>
         <source>Could not resolve the Vantu executable for login startup.</source>
-        <translation>无法找到用于开机启动的 Vantu 程序文件。</translation>
+        <translation>无法找到用于登录启动的 Vantu 程序文件。</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation>无法准备开机启动目录。</translation>
+        <translation>无法准备登录启动目录。</translation>
     </message>
     <message>
         <source>Could not update Vantu login startup.</source>
-        <translation>无法更新 Vantu 的开机启动设置。</translation>
+        <translation>无法更新 Vantu 的登录启动设置。</translation>
     </message>
     <message>
         <source>Could not secure Vantu login startup.</source>
-        <translation>无法保护 Vantu 的开机启动设置。</translation>
+        <translation>无法保护 Vantu 的登录启动设置。</translation>
     </message>
 </context>
 <context>
@@ -614,7 +614,7 @@
     </message>
     <message>
         <source>Enter one pattern per line. Blank lines and comments are ignored.</source>
-        <translation>每行输入一个规则。空行和注释将被忽略。</translation>
+        <translation>每行输入一条规则。空行和注释将被忽略。</translation>
     </message>
     <message>
         <source>Bare domains such as `%1` are treated as suffix rules.</source>

@@ -10,6 +10,8 @@
 #include "MemoryLog.h"
 #include "ModePage.h"
 #include "NotificationHost.h"
+#include "OutsetItem.h"
+#include "PageScrollArea.h"
 #include "RuntimeFacts.h"
 #include "SettingsPage.h"
 #include "StateLabels.h"
@@ -38,7 +40,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize kMinimumSize{780, 620};
-constexpr QMargins kContentMargins{32, 28, 32, 28};
+constexpr QMargins kContentMargins{PageScrollArea::kSideMargin, 28, PageScrollArea::kSideMargin,
+                                   PageScrollArea::kBottomMargin};
+/// Pages scroll up to the window's edges and keep off them what they show.
+constexpr QMargins kPageOutset{PageScrollArea::kSideMargin, 0, PageScrollArea::kSideMargin,
+                               PageScrollArea::kBottomMargin};
 constexpr int kContentSpacing = 16;
 
 QString noticeKindName(MainWindow::NoticeKind kind)
@@ -132,10 +138,16 @@ void MainWindow::buildContent()
     m_notices = new NotificationHost(*content, m_title); // Tab comes to it before the page.
     m_stack = new QStackedWidget(content);
     column->addWidget(m_title);
-    column->addWidget(m_stack, 1);
+    column->addItem(new OutsetItem(*m_stack, kPageOutset));
+    column->setStretch(1, 1);
     buildPages();
     m_notices->keepClearOf(m_vpn->primaryButton());
     m_notices->keepClearOf(*m_locations->findChild<QPushButton *>(u"VantuLocationsConnect"_s));
+    // A failure is told by its page as well.
+    for (const auto &name :
+         {u"VantuLocationsMessage"_s, u"VantuSettingsMessage"_s, u"VantuAccountMessage"_s}) {
+        m_notices->keepClearOf(*m_stack->findChild<QWidget *>(name));
+    }
 
     row->addWidget(m_sidebar);
     row->addWidget(divider);
@@ -324,6 +336,10 @@ void MainWindow::noteCatalogReceived()
 void MainWindow::scrollToFocus(QWidget *old, QWidget *now)
 {
     Q_UNUSED(old)
+    // What is pressed must stay under the pointer, or the click is lost.
+    if (QApplication::mouseButtons() != Qt::NoButton) {
+        return;
+    }
     // Tab scrolls by itself; a screen reader gives the focus without it.
     for (QWidget *each = now; each && isAncestorOf(each); each = each->parentWidget()) {
         if (auto *area = qobject_cast<QScrollArea *>(each)) {

@@ -5,10 +5,8 @@
 #include "ThemePalette.h"
 #include "VantuNavCard.h"
 
-#include <QKeyEvent>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <cstddef>
 
 using namespace Qt::StringLiterals;
@@ -70,6 +68,11 @@ QString NavigationSidebar::pageName(Page page)
 void NavigationSidebar::setCurrentPage(Page page)
 {
     m_cards[static_cast<std::size_t>(page)]->setChecked(true);
+    // Tab comes to the chosen one, the arrow keys go on from there. Qt sees to it as well,
+    // but not before one of them had the keyboard.
+    for (VantuNavCard *card : m_cards) {
+        card->setFocusPolicy(card->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+    }
 }
 
 void NavigationSidebar::focusCurrentPage()
@@ -91,30 +94,4 @@ void NavigationSidebar::applyThemePalette(const ThemePalette &palette)
     for (VantuNavCard *card : m_cards) {
         card->setColors(palette.textMuted, palette.sidebarSelectedText);
     }
-}
-
-void NavigationSidebar::keyPressEvent(QKeyEvent *event)
-{
-    switch (event->key()) {
-    case Qt::Key_Up:
-        moveFocus(-1);
-        break;
-    case Qt::Key_Down:
-        moveFocus(1);
-        break;
-    default:
-        QWidget::keyPressEvent(event);
-    }
-}
-
-void NavigationSidebar::moveFocus(int step)
-{
-    const auto current = std::find_if(m_cards.cbegin(), m_cards.cend(),
-                                      [](const VantuNavCard *card) { return card->hasFocus(); });
-    if (current == m_cards.cend()) {
-        return;
-    }
-    const auto index = static_cast<int>(current - m_cards.cbegin());
-    const int next = std::clamp(index + step, 0, kPageCount - 1);
-    m_cards[static_cast<std::size_t>(next)]->setFocus(Qt::TabFocusReason);
 }

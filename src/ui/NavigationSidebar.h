@@ -12,8 +12,8 @@ enum class Page { Vpn = 0, Locations = 1, Mode = 2, Settings = 3, Account = 4 };
 
 inline constexpr int kPageCount = 5;
 
-/// The column of entries that choose the window's page. The arrow keys move between
-/// the entries; the window adds its own short cuts.
+/// The column of entries that choose the window's page: one stop for Tab, and the arrow
+/// keys choose the next. The window adds its own short cuts.
 class NavigationSidebar final : public QWidget
 {
     Q_OBJECT
@@ -36,11 +36,6 @@ public:
 Q_SIGNALS:
     void pageRequested(int index);
 
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
-
 private:
-    void moveFocus(int step);
-
     std::array<VantuNavCard *, kPageCount> m_cards{};
 };

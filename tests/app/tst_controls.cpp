@@ -4,6 +4,8 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 namespace {
@@ -60,8 +62,10 @@ class TestControls final : public QObject
 private Q_SLOTS:
     void change_data();
     void change();
+    void sessionEndsAmidEdits();
     void repair();
     void openLogs();
+    void clickOnHalfHidden();
     void renewal();
     void daemonThatComesBack();
     void editorKeepsText();
@@ -277,6 +281,23 @@ void TestControls::change()
     QTRY_VERIFY(p.desk.text(message).isEmpty());
 }
 
+/// A window that asks about its edits would hold up the end of the session.
+void TestControls::sessionEndsAmidEdits()
+{
+    Person p;
+    p.desk.answer("GET /v1/split/rules", R"({"rules":{}})");
+    p.desk.answer("POST /v1/split/rules/import", R"({"error":"Not now."})", 500);
+    QVERIFY(p.start() && p.desk.poll(R"({"tunnel_state":"off","auth_state":"logged_in","mode":
+        {"transport":"vantuvpn","policy":"split"}})"));
+    Person::ctrl(Qt::Key_3);
+    QVERIFY(QTest::qWaitFor([&] { return p.desk.isIdle(); }) && editRules(p));
+    QTRY_VERIFY(!p.desk.notice().isEmpty());
+    QEvent end(QEvent::Quit);
+    static_cast<QObject &>(p.desk.shell()).eventFilter(qApp, &end);
+    QVERIFY(!QApplication::activeModalWidget());
+    QTRY_VERIFY(!p.desk.window());
+}
+
 void TestControls::repair()
 {
     Person p;
@@ -311,6 +332,26 @@ void TestControls::openLogs()
     QVERIFY(p.press(u"VantuSettingsOpenLogs"_s));
     QTRY_COMPARE(opened, u"/"_s);
     QCOMPARE(p.desk.notice(), u"Could not open log directory: /"_s);
+}
+
+/// The focus that a press gives must not scroll the button away from under it.
+void TestControls::clickOnHalfHidden()
+{
+    Person p;
+    QVERIFY(p.start());
+    Person::ctrl(Qt::Key_4);
+    QUrl opened;
+    p.desk.shell().windows().setLinkOpener([&opened](const QUrl &url) {
+        opened = url;
+        return true;
+    });
+    auto *area = p.see<QScrollArea>(u"VantuSettingsScrollArea"_s);
+    auto *link = p.desk.window()->findChild<QWidget *>(u"VantuSettingsFAQ"_s);
+    const int top = link->mapTo(area->widget(), QPoint()).y();
+    area->verticalScrollBar()->setValue(top + 10 - area->viewport()->height());
+    QTest::mouseClick(p.desk.window()->windowHandle(), Qt::LeftButton, {},
+                      link->mapTo(p.desk.window(), QPoint(link->width() / 2, 5)));
+    QTRY_COMPARE(opened, QUrl(u"https://www.vantuvpn.com/faq"_s));
 }
 
 void TestControls::renewal()

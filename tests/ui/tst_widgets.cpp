@@ -82,6 +82,9 @@ void TestWidgets::switchPixels()
             QCOMPARE(image.pixelColor(out).alpha(), 0);
         }
         QVERIFY(image.pixelColor(33, 10).alpha() > 0 && image.pixelColor(33, 35).alpha() > 0);
+        // Switched off it needs a line to stand out from a card.
+        const bool isOutlined = image.pixelColor(33, 10) == QColor(m_light.textMuted);
+        QCOMPARE(isOutlined, themed && enabled && !checked);
     }
 }
 
@@ -276,7 +279,7 @@ void TestWidgets::noticeKeepsItsPlace()
     QCOMPARE(host.y(), 68);
     window.resize(300, 500);
     QCOMPARE(host.geometry().center().x(), 149);
-    QVERIFY(host.width() < 300 && host.height() < 80);
+    QVERIFY(host.width() < 300 && host.height() < 6 * host.fontMetrics().height());
 }
 
 void TestWidgets::searchTextStandsBesideGlass()

@@ -117,22 +117,16 @@ QVariant CatalogFilterModel::data(const QModelIndex &index, int role) const
     return spokenText(item);
 }
 
-// What the row's painting tells, in words; whether it is connected or selected is in
-// its description.
+// What the row's painting tells, in words. Its state is in the description as well, which
+// not every screen reader speaks.
 QString CatalogFilterModel::spokenText(const CatalogTreeItem &item) const
 {
-    QStringList parts{item.text};
-    if (item.kind != Kind::Node) {
-        return item.text;
-    }
-    if (item.parent->kind == Kind::Group) {
-        parts.append(item.parent->text);
-    }
-    if (item.latency >= 0) {
-        parts.append(catalogtexts::latency(item.latency));
-    }
-    if (m_source.data(m_source.indexOf(item), CatalogTreeModel::FavoriteRole).toBool()) {
-        parts.append(catalogtexts::favorite());
-    }
-    return parts.join(u", "_s);
+    const QModelIndex at = m_source.indexOf(item);
+    const bool inGroup = item.kind == Kind::Node && item.parent->kind == Kind::Group;
+    return catalogtexts::spoken(
+        {.name = item.text,
+         .group = inGroup ? item.parent->text : QString(),
+         .latency = item.latency,
+         .favorite = m_source.data(at, CatalogTreeModel::FavoriteRole).toBool(),
+         .state = m_source.data(at, Qt::AccessibleDescriptionRole).toString()});
 }

@@ -1,10 +1,13 @@
 #include "CatalogTexts.h"
 
 #include <QCoreApplication>
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
 
 namespace catalogtexts {
 
-// Both belong to the quick entry's texts, whose translations live with the main window.
+// These two belong to the quick entry, whose translations live with the main window.
 QString latency(int milliseconds)
 {
     return QCoreApplication::translate("MainWindow", "%1 ms").arg(milliseconds);
@@ -13,6 +16,25 @@ QString latency(int milliseconds)
 QString favorite()
 {
     return QCoreApplication::translate("MainWindow", "Favorite");
+}
+
+QString connectedServer()
+{
+    return QCoreApplication::translate("CatalogTreeModel", "Connected server");
+}
+
+QString spoken(const Place &place)
+{
+    QStringList parts{place.name, place.group};
+    if (place.latency >= 0) {
+        parts += latency(place.latency);
+    }
+    if (place.favorite) {
+        parts += favorite();
+    }
+    parts += place.state;
+    parts.removeAll(QString());
+    return parts.join(u", "_s);
 }
 
 } // namespace catalogtexts

@@ -1,5 +1,6 @@
 #include "CatalogTreeModel.h"
 
+#include "CatalogTexts.h"
 #include "CatalogTreeBuilder.h"
 
 #include <algorithm>
@@ -224,7 +225,7 @@ QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
         return row.text;
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
-        return row.markers.connected           ? tr("Connected server")
+        return row.markers.connected           ? catalogtexts::connectedServer()
                : row.markers.containsConnected ? tr("Contains connected server")
                : row.markers.selected          ? QVariant(tr("Selected server"))
                                                : QVariant();

@@ -73,7 +73,9 @@ UpdateDialog::UpdateDialog(Theme &theme, QWidget *parent)
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(kGap);
     buildTexts(*column);
+    buildLink(*column);
     buildProgress(*column);
+    column->addSpacing(kGap);
     buildButtons(*column);
 
     theme.attach(*this);
@@ -111,6 +113,19 @@ void UpdateDialog::buildTexts(QVBoxLayout &column)
     column.addWidget(m_changelog, 1);
 }
 
+void UpdateDialog::buildLink(QVBoxLayout &column)
+{
+    m_fallback = new QPushButton(tr("Open Download Link"), this);
+    m_fallback->setObjectName(u"VantuUpdateFallback"_s);
+    m_fallback->setAccessibleName(tr("Open the Vantu update download link"));
+    connect(m_fallback, &QPushButton::clicked, this, &UpdateDialog::openDownloadPageRequested);
+
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_fallback);
+    row->addStretch(1);
+    column.addLayout(row);
+}
+
 void UpdateDialog::buildProgress(QVBoxLayout &column)
 {
     m_status = new MessageArea(u"VantuUpdateStatus"_s, kStatusLines, this);
@@ -129,28 +144,20 @@ void UpdateDialog::buildProgress(QVBoxLayout &column)
 
 void UpdateDialog::buildButtons(QVBoxLayout &column)
 {
-    m_fallback = new QPushButton(tr("Open Download Link"), this);
-    m_fallback->setObjectName(u"VantuUpdateFallback"_s);
-    m_fallback->setAccessibleName(tr("Open the Vantu update download link"));
     m_primary = new QPushButton(this);
     m_primary->setObjectName(u"VantuUpdateDownload"_s);
     m_primary->setDefault(true);
     m_primary->setFocus();
     m_secondary = new QPushButton(this);
     m_secondary->setObjectName(u"VantuUpdateSecondary"_s);
-    connect(m_fallback, &QPushButton::clicked, this, &UpdateDialog::openDownloadPageRequested);
     connect(m_primary, &QPushButton::clicked, this, &UpdateDialog::onPrimaryClicked);
     connect(m_secondary, &QPushButton::clicked, this, &UpdateDialog::onSecondaryClicked);
 
-    auto *links = new QHBoxLayout;
-    links->addWidget(m_fallback);
-    links->addStretch(1);
     auto *row = new QHBoxLayout;
     row->setSpacing(kGap);
     row->addStretch(1);
     row->addWidget(m_primary);
     row->addWidget(m_secondary);
-    column.addLayout(links);
     column.addLayout(row);
 }
 

@@ -58,6 +58,7 @@ protected:
 
 private:
     void buildTexts(QVBoxLayout &column);
+    void buildLink(QVBoxLayout &column);
     void buildProgress(QVBoxLayout &column);
     void buildButtons(QVBoxLayout &column);
     void followTheme();

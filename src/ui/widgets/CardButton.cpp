@@ -44,6 +44,8 @@ CardButton::CardButton(const QString &title, QWidget *parent)
     top->addWidget(m_title, 1);
     top->addWidget(m_chevron);
     auto *layout = new QVBoxLayout(this);
+    // The template's least height of buttons would let a tight page cut the value off.
+    layout->setSizeConstraint(QLayout::SetMinimumSize);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     layout->setSpacing(kSpacing);
     layout->addLayout(top);
@@ -76,5 +78,17 @@ bool CardButton::event(QEvent *event)
         QToolTip::showText(help->globalPos(), plaintext::toolTip(m_value->text()), this);
         return true;
     }
-    return QPushButton::event(event);
+    const bool done = QPushButton::event(event);
+    switch (event->type()) {
+    case QEvent::Polish:
+    case QEvent::StyleChange:
+    case QEvent::FontChange:
+    case QEvent::LayoutRequest:
+        // The least height that the style gives to buttons would be taken for a card's.
+        setMinimumHeight(minimumSizeHint().height());
+        break;
+    default:
+        break;
+    }
+    return done;
 }

@@ -36,6 +36,8 @@ void handOnTheme(QWidget &root, const ThemePalette &palette)
     for (ToggleSwitch *toggle : allOf<ToggleSwitch>(root)) {
         toggle->setProperty("vantuSwitchCheckedTrack", accent);
         toggle->setProperty("vantuSwitchUncheckedTrack", QColor(palette.surfaceBorder));
+        // The track alone hardly stands out from a card.
+        toggle->setProperty("vantuSwitchUncheckedOutline", muted);
         toggle->setProperty("vantuSwitchThumb", QColor(Qt::white));
         toggle->setProperty("vantuSwitchThumbBorder", thumbBorder);
         toggle->setProperty("vantuSwitchFocus", accent);

@@ -1,9 +1,9 @@
 #include "MessageArea.h"
 
+#include "Announce.h"
 #include "LabelText.h"
 #include "StyleProperty.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -41,7 +41,6 @@ void MessageArea::showMessage(const QString &text, Tone tone)
 void MessageArea::announce()
 {
     if (!m_label->isHidden()) {
-        QAccessibleEvent alert(m_label, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
+        ::announce(*m_label);
     }
 }

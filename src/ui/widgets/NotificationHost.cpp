@@ -1,5 +1,6 @@
 #include "NotificationHost.h"
 
+#include "Announce.h"
 #include "ElidedLabel.h"
 #include "StyleProperty.h"
 #include "TintedIcon.h"
@@ -132,8 +133,7 @@ void NotificationHost::showMessage(const QString &message, const QString &kind, 
     if (timeoutMs > 0) {
         m_hideTimer->start(timeoutMs);
     }
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    announce(*this);
 }
 
 void NotificationHost::dismiss()

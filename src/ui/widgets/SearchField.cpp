@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -30,10 +31,10 @@ SearchField::SearchField(const QString &placeholder, QWidget *parent)
     setAccessibleName(placeholder);
     setClearButtonEnabled(true);
     setIconColor(palette().color(QPalette::PlaceholderText));
-    makeRoomForGlass();
+    placeIcons();
 }
 
-void SearchField::makeRoomForGlass()
+void SearchField::placeIcons()
 {
     QStyleOptionFrame option;
     initStyleOption(&option);
@@ -44,6 +45,11 @@ void SearchField::makeRoomForGlass()
     const QMargins margins(mirrored ? 0 : room, 0, mirrored ? room : 0, 0);
     if (margins != textMargins()) {
         setTextMargins(margins);
+    }
+    // Qt puts the clear button nearer to its end than the glass is to the other.
+    if (auto *clear = findChild<QToolButton *>()) {
+        const int end = kGlassInset + (kIconSize - clear->width()) / 2;
+        clear->move(mirrored ? end : width() - end - clear->width(), clear->y());
     }
     // By itself the text would stand at the side where its own script begins.
     setAlignment((mirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
@@ -65,14 +71,14 @@ void SearchField::changeEvent(QEvent *event)
 {
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::LayoutDirectionChange || event->type() == QEvent::StyleChange) {
-        makeRoomForGlass();
+        placeIcons();
     }
 }
 
 void SearchField::resizeEvent(QResizeEvent *event)
 {
     QLineEdit::resizeEvent(event);
-    makeRoomForGlass();
+    placeIcons();
 }
 
 void SearchField::paintEvent(QPaintEvent *event)

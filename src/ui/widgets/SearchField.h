@@ -26,7 +26,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void makeRoomForGlass();
+    void placeIcons();
 
     QColor m_iconColor;
 };

@@ -18,6 +18,8 @@ SegmentedControl::SegmentedControl(const QString &accessibleName, QWidget *paren
     : ChoiceGroup(accessibleName, parent)
 {
     setObjectName(u"VantuSegmented"_s);
+    // In a window that is too small, others give way.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);

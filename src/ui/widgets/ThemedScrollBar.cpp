@@ -43,6 +43,9 @@ bool ThemedScrollBar::event(QEvent *event)
 
 void ThemedScrollBar::paintEvent(QPaintEvent *)
 {
+    if (minimum() == maximum()) {
+        return; // All there is is in view.
+    }
     QStyleOptionSlider option;
     initStyleOption(&option);
     const QRect handle =

@@ -12,6 +12,7 @@ constexpr int kThumbInset = 3;
 constexpr int kDisabledTrackAlpha = 85;
 constexpr int kDisabledThumbAlpha = 150;
 constexpr qreal kThumbBorderWidth = 1.0;
+constexpr qreal kOutlineWidth = 1.0;
 constexpr qreal kFocusWidth = 2.0;
 
 /// The colour that the theme set, else `fallback`.
@@ -52,6 +53,7 @@ void ToggleSwitch::paintEvent(QPaintEvent *)
                     : themed(*this, "vantuSwitchUncheckedTrack", palette().color(QPalette::Mid));
     QColor thumb = themed(*this, "vantuSwitchThumb", palette().color(QPalette::Base));
     QColor border = themed(*this, "vantuSwitchThumbBorder", Qt::transparent);
+    const QColor outline = themed(*this, "vantuSwitchUncheckedOutline", Qt::transparent);
     if (!isEnabled()) {
         track.setAlpha(kDisabledTrackAlpha);
         thumb.setAlpha(kDisabledThumbAlpha);
@@ -70,6 +72,14 @@ void ToggleSwitch::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
     painter.setBrush(track);
     painter.drawRoundedRect(trackRect, trackRect.height() / 2.0, trackRect.height() / 2.0);
+    if (!isChecked() && isEnabled() && outline.alpha() > 0) {
+        const qreal inset = kOutlineWidth / 2;
+        const QRectF line = QRectF(trackRect).adjusted(inset, inset, -inset, -inset);
+        painter.setPen(QPen(outline, kOutlineWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(line, line.height() / 2, line.height() / 2);
+        painter.setPen(Qt::NoPen);
+    }
     if (border.alpha() > 0) {
         painter.setPen(QPen(border, kThumbBorderWidth));
     }

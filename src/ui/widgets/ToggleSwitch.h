@@ -7,11 +7,12 @@ class QPaintEvent;
 /// A check box that looks like a switch. It says nothing itself: give it an accessible
 /// name, or make the label beside it its buddy.
 ///
-/// Its colours are five dynamic properties of type QColor, which handOnTheme() sets:
-/// vantuSwitchCheckedTrack, vantuSwitchUncheckedTrack, vantuSwitchThumb,
-/// vantuSwitchThumbBorder and vantuSwitchFocus. Whatever is missing comes from the
-/// widget's palette. The hint is the track's size; a layout should leave two pixels
-/// around it for the focus ring, as the style template does.
+/// Its colours are dynamic properties of type QColor, which handOnTheme() sets:
+/// vantuSwitchCheckedTrack, vantuSwitchUncheckedTrack, vantuSwitchUncheckedOutline,
+/// vantuSwitchThumb, vantuSwitchThumbBorder and vantuSwitchFocus. Whatever is missing
+/// comes from the widget's palette, but for the outline and the border, which then aren't
+/// drawn. The hint is the track's size; a layout should leave two pixels around it for
+/// the focus ring, as the style template does.
 class ToggleSwitch final : public QCheckBox
 {
     Q_OBJECT

@@ -4,12 +4,12 @@
 #include "HandOnTheme.h"
 #include "LabelText.h"
 #include "MessageArea.h"
+#include "PageScrollArea.h"
 #include "PlainText.h"
 #include "RuntimeFacts.h"
 #include "StyleProperty.h"
 #include "TextStyle.h"
 #include "ThemePalette.h"
-#include "ThemedScrollBar.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -19,7 +19,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -82,21 +81,14 @@ void AccountPage::buildContent()
     column->addWidget(m_signedInCard);
     column->addStretch(1);
 
-    auto *row = new QHBoxLayout(content);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto *row = new QHBoxLayout;
     row->addStretch(1);
     row->addLayout(column);
     row->addStretch(1);
 
     // Large fonts on a small screen need more room than there is.
-    auto *scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setVerticalScrollBar(new ThemedScrollBar(Qt::Vertical, scroll));
-    scroll->setWidget(content);
-    content->setAutoFillBackground(false); // The window's ground shows through.
+    auto *scroll = new PageScrollArea(this);
+    scroll->setContent(*content)->addLayout(row);
     auto *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
     page->addWidget(scroll);

@@ -1,5 +1,6 @@
 #include "LocationsPage.h"
 
+#include "Announce.h"
 #include "AppState.h"
 #include "ControlProtocol.h"
 #include "LocationsItemDelegate.h"
@@ -11,7 +12,6 @@
 #include "SearchField.h"
 #include "StyleProperty.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -98,6 +98,7 @@ void LocationsPage::rebuildTabs()
         tabs.append({text(tabRow(tab), CatalogTreeModel::GroupKeyRole), tabLabel(tab)});
     }
     m_tabs->setTabs(tabs);
+    setStyleProperty(*m_list, "vantuRole", tabs.isEmpty() ? u"card"_s : QString());
     m_tabBeforeSearch = m_tabs->find(beforeSearch);
     if (m_searchActive) {
         setSearchScope(m_tabs->find(scope));
@@ -380,8 +381,7 @@ void LocationsPage::showOperationError(const QString &message)
     m_error = line.isEmpty() ? tr("Operation failed") : line;
     m_errorShown = true;
     renderMessage();
-    QAccessibleEvent alert(m_message, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    announce(*m_message);
 }
 
 void LocationsPage::clearMessage()

@@ -11,6 +11,7 @@
 class AppState;
 class LocationsTabBar;
 class LocationsTools;
+class QFrame;
 class QLabel;
 class QPushButton;
 class QStackedWidget;
@@ -144,6 +145,7 @@ private:
     QLabel *m_message = nullptr;
     LocationsTabBar *m_tabs = nullptr;
     LocationsTreeView *m_tree = nullptr;
+    QFrame *m_list = nullptr;
     QStackedWidget *m_stack = nullptr;
     QWidget *m_emptyPage = nullptr;
     QLabel *m_empty = nullptr;

@@ -6,6 +6,7 @@
 #include "LocationsItemDelegate.h"
 #include "LocationsTabBar.h"
 #include "LocationsTools.h"
+#include "PageScrollArea.h"
 #include "SearchField.h"
 #include "StyleProperty.h"
 #include "TextStyle.h"
@@ -42,7 +43,8 @@ LocationsPage::LocationsPage(AppState &state, QWidget *parent)
     , m_loadingDelay(new QTimer(this))
 {
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
+    column->setContentsMargins(PageScrollArea::kSideMargin, 0, PageScrollArea::kSideMargin,
+                               PageScrollArea::kBottomMargin);
     column->setSpacing(0);
     m_tools = new LocationsTools(this);
     auto *top = new QVBoxLayout;
@@ -80,9 +82,10 @@ void LocationsPage::buildList(QVBoxLayout &column)
     m_tabs = new LocationsTabBar(this);
     m_tabs->setAccessibleName(tr("Kinds of locations"));
 
-    auto *group = new QFrame(this);
-    group->setObjectName(u"VantuLocationsListGroup"_s);
-    m_stack = new QStackedWidget(group);
+    m_list = new QFrame(this);
+    m_list->setObjectName(u"VantuLocationsListGroup"_s);
+    setStyleProperty(*m_list, "vantuRole", u"card"_s);
+    m_stack = new QStackedWidget(m_list);
     m_stack->setObjectName(u"VantuLocationsListStack"_s);
     m_tree = new LocationsTreeView(m_catalog, m_filter, m_stack);
     m_tree->setObjectName(u"VantuLocationsTree"_s);
@@ -90,18 +93,18 @@ void LocationsPage::buildList(QVBoxLayout &column)
     m_emptyPage = buildEmptyPage();
     m_stack->addWidget(m_emptyPage);
     m_stack->addWidget(m_tree);
-    m_showAllMatches = new QPushButton(tr("Show all matches"), group);
+    m_showAllMatches = new QPushButton(tr("Show all matches"), m_list);
     m_showAllMatches->setObjectName(u"VantuLocationsShowAllMatches"_s);
     m_showAllMatches->setAutoDefault(true); // Return presses it, like Space.
     m_showAllMatches->hide();
 
-    auto *layout = new QVBoxLayout(group);
+    auto *layout = new QVBoxLayout(m_list);
     layout->setContentsMargins(kListMargin, kListMargin, kListMargin, kListMargin);
     layout->setSpacing(kListMargin);
     layout->addWidget(m_stack, 1);
     layout->addWidget(m_showAllMatches);
     column.addWidget(m_tabs);
-    column.addWidget(group, 1);
+    column.addWidget(m_list, 1);
 }
 
 QWidget *LocationsPage::buildEmptyPage()

@@ -1,5 +1,6 @@
 #include "ModePage.h"
 
+#include "Announce.h"
 #include "AppState.h"
 #include "ControlProtocol.h"
 #include "ElidedLabel.h"
@@ -8,6 +9,7 @@
 #include "ModeOption.h"
 #include "ModeRequests.h"
 #include "ModeTexts.h"
+#include "PageScrollArea.h"
 #include "PlainText.h"
 #include "RegionChoices.h"
 #include "RuntimeFacts.h"
@@ -15,9 +17,7 @@
 #include "StyleProperty.h"
 #include "ThemePalette.h"
 
-#include <QAccessible>
 #include <QPushButton>
-#include <QScrollArea>
 
 #include <utility>
 
@@ -92,8 +92,7 @@ void ModePage::showOperationError(const QString &message)
     const QString line = plaintext::singleLine(message, kMaxStatusLength);
     m_error = line.isEmpty() ? tr("Mode operation failed") : line;
     render();
-    QAccessibleEvent alert(m_status, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    announce(*m_status);
 }
 
 void ModePage::setSplitRulesLoading(bool loading)

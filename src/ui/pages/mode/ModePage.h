@@ -14,8 +14,8 @@ class AppState;
 class ElidedLabel;
 class ModeDialogs;
 class ModeOption;
+class PageScrollArea;
 class QFrame;
-class QScrollArea;
 class QVBoxLayout;
 class SegmentedControl;
 class Theme;
@@ -124,7 +124,7 @@ private:
     QString m_regionsRoute;
     QPointer<QWidget> m_focusBefore; ///< Had the focus before everything was disabled.
 
-    QScrollArea *m_scroll = nullptr;
+    PageScrollArea *m_scroll = nullptr;
     ElidedLabel *m_summaryTitle = nullptr;
     ElidedLabel *m_status = nullptr;
     ElidedLabel *m_summaryDetail = nullptr;

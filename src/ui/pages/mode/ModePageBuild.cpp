@@ -8,29 +8,25 @@
 #include "ModeOption.h"
 #include "ModePage.h"
 #include "ModeTexts.h"
+#include "PageScrollArea.h"
 #include "SegmentedControl.h"
 #include "StyleProperty.h"
 #include "TextStyle.h"
-#include "ThemedScrollBar.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kColumnWidth = 880;
 constexpr int kGap = 8;
 constexpr int kSectionGap = 16;
 constexpr int kCardMargin = 16;
 constexpr int kSubtitleLines = 2;
 constexpr int kDetailLines = 3;
-/// Keeps the cards off the scroll bar.
-constexpr int kScrollBarGap = 6;
 
 } // namespace
 
@@ -49,29 +45,15 @@ void ModePage::buildContent()
 {
     auto *content = new QWidget;
     content->setObjectName(u"VantuModeScrollContent"_s);
-    content->setMaximumWidth(kColumnWidth);
-    auto *row = new QHBoxLayout(content); // A margin would stay on its side when mirrored.
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
-    auto *column = new QVBoxLayout;
+    m_scroll = new PageScrollArea(this);
+    m_scroll->setObjectName(u"VantuModeScrollArea"_s);
+    QVBoxLayout *column = m_scroll->setContent(*content);
     column->setSpacing(kSectionGap);
-    row->addLayout(column, 1);
-    row->addSpacing(kScrollBarGap);
     buildHeading(*column);
     column->addWidget(buildSummary(content));
     buildOptions(*column, content);
     column->addWidget(buildLocalNetwork(content));
     column->addStretch(1);
-
-    m_scroll = new QScrollArea(this);
-    m_scroll->setObjectName(u"VantuModeScrollArea"_s);
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setFrameShape(QFrame::NoFrame);
-    m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->setAlignment(Qt::AlignLeading | Qt::AlignTop);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scroll->setVerticalScrollBar(new ThemedScrollBar(Qt::Vertical, m_scroll));
-    m_scroll->setWidget(content);
 
     auto *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);

@@ -1,5 +1,6 @@
 #include "SplitRulesEditorDialog.h"
 
+#include "Announce.h"
 #include "ConfirmDialog.h"
 #include "ControlProtocol.h"
 #include "DialogParts.h"
@@ -12,7 +13,6 @@
 #include "Theme.h"
 #include "VendorHost.h"
 
-#include <QAccessible>
 #include <QCoreApplication>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -69,7 +69,6 @@ SplitRulesEditorDialog::SplitRulesEditorDialog(Theme &theme, QWidget *parent)
     setWindowTitle(title);
     setAccessibleName(title);
     setModal(true);
-    resize(kFirstSize);
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -85,6 +84,8 @@ SplitRulesEditorDialog::SplitRulesEditorDialog(Theme &theme, QWidget *parent)
     connect(&theme, &Theme::changed, this, [this] { handOnTheme(*this, m_theme.palette()); });
     handOnTheme(*this, theme.palette());
     reserveApplyWidth();
+    // Large letters need more.
+    resize(kFirstSize.expandedTo({0, layout()->totalHeightForWidth(kFirstSize.width())}));
     showKind(wire::kRouteDirect);
     m_text->setFocus();
 }
@@ -126,6 +127,8 @@ void SplitRulesEditorDialog::buildText(QVBoxLayout &column)
     m_text->setObjectName(u"VantuSplitRulesEditorText"_s);
     // A minimum of the dialog's own would outdo what large fonts need.
     m_text->setMinimumSize(kMinimumText);
+    // Takes what the others leave, and is the first to give when letters are large.
+    m_text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_text->setAccessibleName(QCoreApplication::translate("ModePage", "Rules, one per line"));
     connect(m_text, &QPlainTextEdit::textChanged, this, &SplitRulesEditorDialog::render);
 
@@ -400,7 +403,6 @@ void SplitRulesEditorDialog::renderError()
     m_error->setText(error);
     m_errorCard->setVisible(!error.isEmpty());
     if (!error.isEmpty()) {
-        QAccessibleEvent alert(m_error, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
+        announce(*m_error);
     }
 }

@@ -1,8 +1,8 @@
 #include "SplitRulesText.h"
 
+#include "TextStyle.h"
 #include "ThemedScrollBar.h"
 
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QTextBlock>
@@ -28,7 +28,7 @@ QString examples()
 SplitRulesText::SplitRulesText(QWidget *parent)
     : QPlainTextEdit(parent)
 {
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setTextStyle(*this, TextStyle::Code);
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setTabChangesFocus(true);
     setVerticalScrollBar(new ThemedScrollBar(Qt::Vertical));

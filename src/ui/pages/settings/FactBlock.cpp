@@ -8,7 +8,6 @@
 #include "TintedIcon.h"
 
 #include <QClipboard>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -35,17 +34,6 @@ QLabel *makeFactLabel(QWidget *parent)
     keepToLeadingEdge(*label);
     label->setLayoutDirection(Qt::LeftToRight);
     return label;
-}
-
-/// Letters of even width for what may have to be copied letter by letter.
-void setFactFont(QLabel &label, bool even)
-{
-    setTextStyle(label, TextStyle::Body);
-    if (even) {
-        QFont font = label.font();
-        font.setFamilies(QFontDatabase::systemFont(QFontDatabase::FixedFont).families());
-        label.setFont(font);
-    }
 }
 
 } // namespace
@@ -101,7 +89,7 @@ void FactBlock::setFacts(const QList<Fact> &facts)
         line.row->setVisible(index < facts.size());
         const Fact fact = facts.value(index);
         line.label->setText(fact.text);
-        setFactFont(*line.label, !fact.copied.isEmpty());
+        setTextStyle(*line.label, fact.copied.isEmpty() ? TextStyle::Body : TextStyle::Code);
         setStyleProperty(*line.label, "vantuRole",
                          fact.isError ? QVariant(u"error"_s) : QVariant());
         line.button->setVisible(!fact.copied.isEmpty());

@@ -2,6 +2,7 @@
 
 #include "AboutSection.h"
 #include "AdvancedSection.h"
+#include "Announce.h"
 #include "AppState.h"
 #include "AppearanceSection.h"
 #include "DiagnosticsSection.h"
@@ -11,16 +12,14 @@
 #include "KillSwitchSection.h"
 #include "LanguageSection.h"
 #include "MessageArea.h"
+#include "PageScrollArea.h"
 #include "PlainText.h"
 #include "ProxySection.h"
 #include "SplitDNSSection.h"
 #include "StyleProperty.h"
-#include "ThemedScrollBar.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -31,11 +30,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kColumnWidth = 880;
 constexpr int kSectionGap = 16;
 constexpr int kMessageGap = 8;
-/// Keeps the cards off the scroll bar.
-constexpr int kScrollBarGap = 6;
 /// Longest message of the daemon that is shown.
 constexpr qsizetype kMaxMessageLength = 500;
 
@@ -60,7 +56,10 @@ SettingsPage::SettingsPage(AppState &state, GuiPreferences &preferences, Theme &
     auto *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
     page->setSpacing(kMessageGap);
-    page->addWidget(m_message);
+    auto *top = new QVBoxLayout;
+    top->setContentsMargins(PageScrollArea::kSideMargin, 0, PageScrollArea::kSideMargin, 0);
+    top->addWidget(m_message);
+    page->addLayout(top);
     page->addWidget(m_scroll, 1);
     connectState(state);
     connectSections();
@@ -77,23 +76,16 @@ void SettingsPage::buildMessage()
     m_message->setWordWrap(true);
     m_message->setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
                             Qt::AlignVCenter);
-    m_message->setMaximumWidth(kColumnWidth);
+    m_message->setMaximumWidth(PageScrollArea::kColumnWidth);
 }
 
 void SettingsPage::buildContent(AppState &state, GuiPreferences &preferences, Theme &theme)
 {
-    m_scroll = new QScrollArea(this);
+    m_scroll = new PageScrollArea(this);
     m_scroll->setObjectName(u"VantuSettingsScrollArea"_s);
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setFrameShape(QFrame::NoFrame);
-    m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->setAlignment(Qt::AlignLeading | Qt::AlignTop);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scroll->setVerticalScrollBar(new ThemedScrollBar(Qt::Vertical, m_scroll));
 
     auto *content = new ScrollContent;
     content->setObjectName(u"VantuSettingsScrollContent"_s);
-    content->setMaximumWidth(kColumnWidth);
     m_general = new GeneralSection(state, preferences, content);
     m_killSwitch = new KillSwitchSection(state, theme, content);
     m_proxy = new ProxySection(state, content);
@@ -104,20 +96,14 @@ void SettingsPage::buildContent(AppState &state, GuiPreferences &preferences, Th
     m_diagnostics = new DiagnosticsSection(state, content);
     m_about = new AboutSection(state, content);
 
-    auto *row = new QHBoxLayout(content); // A margin would stay on its side when mirrored.
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
-    auto *column = new QVBoxLayout;
+    QVBoxLayout *column = m_scroll->setContent(*content);
     column->setSpacing(kSectionGap);
-    row->addLayout(column, 1);
-    row->addSpacing(kScrollBarGap);
     for (QWidget *section : std::initializer_list<QWidget *>{m_general, m_killSwitch, m_proxy,
                                                              m_splitDNS, m_appearance, m_language,
                                                              m_advanced, m_diagnostics, m_about}) {
         column->addWidget(section);
     }
     column->addStretch(1);
-    m_scroll->setWidget(content);
 }
 
 void SettingsPage::connectState(const AppState &state)
@@ -263,8 +249,7 @@ void SettingsPage::showError(const QString &message)
 {
     m_error = message;
     render();
-    QAccessibleEvent alert(m_message, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    announce(*m_message);
 }
 
 void SettingsPage::clearError()

@@ -16,9 +16,9 @@ class GeneralSection;
 class GuiPreferences;
 class KillSwitchSection;
 class LanguageSection;
+class PageScrollArea;
 class ProxySection;
 class QLabel;
-class QScrollArea;
 class SplitDNSSection;
 class Theme;
 struct ThemePalette;
@@ -104,7 +104,7 @@ private:
     QString m_error;
     QPointer<QWidget> m_restingFocus; ///< Had the keyboard before it was disabled.
     QLabel *m_message = nullptr;
-    QScrollArea *m_scroll = nullptr;
+    PageScrollArea *m_scroll = nullptr;
     GeneralSection *m_general = nullptr;
     KillSwitchSection *m_killSwitch = nullptr;
     ProxySection *m_proxy = nullptr;

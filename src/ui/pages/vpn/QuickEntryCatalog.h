@@ -27,7 +27,8 @@ struct QuickEntryItem
     int pingMs = -1;
     int signalLevel = -1;
     bool favorite = false;
-    bool available = true; ///< The catalogue still has it.
+    bool available = true;  ///< The catalogue still has it.
+    bool connected = false; ///< The node in use; the catalogue leaves it to others.
 
     bool operator==(const QuickEntryItem &) const = default;
 };

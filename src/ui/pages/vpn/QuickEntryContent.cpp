@@ -19,6 +19,13 @@ QuickEntryItem recentItem(const RecentNode &place, const QuickEntryCatalog &cata
     return item;
 }
 
+void markConnected(QList<QuickEntryItem> &items, const QString &id)
+{
+    for (QuickEntryItem &item : items) {
+        item.connected = item.kind == QuickEntryItem::Kind::Node && !id.isEmpty() && item.id == id;
+    }
+}
+
 } // namespace
 
 QuickEntryContent quickEntryContent(const QString &query, const QuickEntryCatalog &catalog,
@@ -27,8 +34,10 @@ QuickEntryContent quickEntryContent(const QString &query, const QuickEntryCatalo
     QuickEntryContent content;
     // A text of nothing but separators looks for nothing.
     content.searching = !CatalogSearch(query).isEmpty();
+    const QString connected = history.connected.id.trimmed();
     if (content.searching) {
         content.items = catalog.search(query);
+        markConnected(content.items, connected);
         return content;
     }
     content.searches = history.searches;
@@ -36,12 +45,12 @@ QuickEntryContent quickEntryContent(const QString &query, const QuickEntryCatalo
     for (const RecentNode &place : history.places) {
         content.items += recentItem(place, catalog);
     }
-    const QString connected = history.connected.id.trimmed();
     if (content.items.isEmpty() && !history.placesCleared && !connected.isEmpty()) {
         const QuickEntryItem item = catalog.node(connected);
         if (item.available) {
             content.items += item;
         }
     }
+    markConnected(content.items, connected);
     return content;
 }

@@ -13,7 +13,7 @@ struct QuickEntryHistory
     QStringList searches;
     QList<RecentNode> places;
     bool placesCleared = false; ///< The user emptied `places` and nothing came since.
-    NodeEntry connected;        ///< The node in use; stands in while there are no places.
+    NodeEntry connected;        ///< The node in use; also stands in while there are no places.
 };
 
 /// What the quick entry shows.

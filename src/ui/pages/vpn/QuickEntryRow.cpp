@@ -1,5 +1,6 @@
 #include "QuickEntryRow.h"
 
+#include "CatalogTexts.h"
 #include "ElidedLabel.h"
 #include "FlagLabel.h"
 #include "PlainText.h"
@@ -8,9 +9,7 @@
 #include "TextStyle.h"
 #include "VpnSummary.h"
 
-#include <QCoreApplication>
 #include <QHBoxLayout>
-#include <QStringList>
 #include <QToolButton>
 
 #include <initializer_list>
@@ -27,17 +26,6 @@ constexpr int kStarIcon = 16;
 constexpr int kMinimumPingWidth = 42;
 constexpr int kPingPadding = 6;
 constexpr int kWidestPing = 999;
-
-// The words of the quick entry belong to the window's context.
-QString favoriteText()
-{
-    return QCoreApplication::translate("MainWindow", "Favorite");
-}
-
-QString pingText(int milliseconds)
-{
-    return QCoreApplication::translate("MainWindow", "%1 ms").arg(milliseconds);
-}
 
 } // namespace
 
@@ -58,9 +46,9 @@ QuickEntryRow::QuickEntryRow(QWidget *parent)
     m_ping->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     m_ping->setProperty("vantuRole", u"muted"_s);
     setTextStyle(*m_ping, TextStyle::Note);
-    m_ping->setFixedWidth(
-        qMax(kMinimumPingWidth,
-             m_ping->fontMetrics().horizontalAdvance(pingText(kWidestPing)) + kPingPadding));
+    m_ping->setFixedWidth(qMax(kMinimumPingWidth, m_ping->fontMetrics().horizontalAdvance(
+                                                      catalogtexts::latency(kWidestPing)) +
+                                                      kPingPadding));
     for (QWidget *part : std::initializer_list<QWidget *>{m_text, m_ping, m_bars}) {
         part->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
@@ -75,8 +63,8 @@ QuickEntryRow::QuickEntryRow(QWidget *parent)
     m_star->setSizePolicy(starPolicy);
     m_star->setFocusPolicy(Qt::TabFocus);
     m_star->setToolTip(u"%1 (%2)"_s.arg(
-        favoriteText(), quickentry::favoriteKey().toString(QKeySequence::NativeText)));
-    m_star->setAccessibleName(favoriteText());
+        catalogtexts::favorite(), quickentry::favoriteKey().toString(QKeySequence::NativeText)));
+    m_star->setAccessibleName(catalogtexts::favorite());
     connect(m_star, &QToolButton::clicked, this, &QuickEntryRow::toggleFavorite);
 
     auto *layout = new QHBoxLayout(this);
@@ -127,24 +115,18 @@ void QuickEntryRow::renderItem()
 {
     const bool isNode = m_item.kind == QuickEntryItem::Kind::Node;
     m_text->setText(isNode ? m_item.label : u"%1 \u00b7 %2"_s.arg(m_item.label, smartSelectText()));
-    m_ping->setText(m_item.pingMs < 0 ? QString() : pingText(m_item.pingMs));
+    m_ping->setText(m_item.pingMs < 0 ? QString() : catalogtexts::latency(m_item.pingMs));
     m_bars->setLevel(m_item.signalLevel);
     m_star->setVisible(isNode && m_item.available);
     m_star->setAccessibleDescription(m_item.label);
     setEnabled(m_item.available);
-    setAccessibleName(spokenName());
+    const QString state = m_item.connected ? catalogtexts::connectedServer() : QString();
+    setAccessibleName(catalogtexts::spoken({.name = m_text->text(),
+                                            .group = {},
+                                            .latency = m_item.pingMs,
+                                            .favorite = m_item.favorite,
+                                            .state = state}));
+    setToolTip(state);
     m_flag->setCode(m_item.flagCode);
     m_star->setIcon(m_item.favorite ? m_look.filledStar : m_look.star);
-}
-
-QString QuickEntryRow::spokenName() const
-{
-    QStringList parts{m_text->text()};
-    if (!m_ping->text().isEmpty()) {
-        parts += m_ping->text();
-    }
-    if (m_item.favorite) {
-        parts += favoriteText();
-    }
-    return parts.join(u", "_s);
 }

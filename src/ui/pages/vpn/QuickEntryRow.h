@@ -47,7 +47,6 @@ Q_SIGNALS:
 
 private:
     void renderItem();
-    QString spokenName() const;
 
     QuickEntryItem m_item;
     QuickEntryLook m_look;

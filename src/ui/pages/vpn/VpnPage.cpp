@@ -5,10 +5,10 @@
 #include "ChevronLabel.h"
 #include "ElidedLabel.h"
 #include "HandOnTheme.h"
+#include "PageScrollArea.h"
 #include "PlainText.h"
 #include "SearchField.h"
 #include "ThemePalette.h"
-#include "ThemedScrollBar.h"
 #include "TrayMenuText.h"
 #include "VpnQuickEntry.h"
 #include "VpnStatusCard.h"
@@ -17,7 +17,6 @@
 #include <QDateTime>
 #include <QGridLayout>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -27,7 +26,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kColumnWidth = 880;
 constexpr int kSpacing = 16;
 /// How often "connected for" is counted on while the page is looked at.
 constexpr auto kDurationInterval = 15s;
@@ -62,33 +60,25 @@ void VpnPage::buildContent()
 {
     m_search = new SearchField(tr("Search locations or nodes"), this);
     m_search->setObjectName(u"VantuVPNSearch"_s);
-    m_search->setMaximumWidth(kColumnWidth);
+    m_search->setMaximumWidth(PageScrollArea::kColumnWidth);
+    auto *top = new QVBoxLayout;
+    top->setContentsMargins(PageScrollArea::kSideMargin, 0, PageScrollArea::kSideMargin, 0);
+    top->addWidget(m_search);
 
+    // Large fonts on a small screen need more room than there is.
     auto *content = new QWidget;
-    m_statusCard = new VpnStatusCard(content);
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto *scroll = new PageScrollArea(this);
+    QVBoxLayout *column = scroll->setContent(*content);
     column->setSpacing(kSpacing);
+    m_statusCard = new VpnStatusCard(content);
     column->addWidget(m_statusCard);
     column->addLayout(buildCards());
     column->addStretch(1);
-    content->setMaximumWidth(kColumnWidth);
-
-    // Large fonts on a small screen need more room than there is.
-    auto *scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setAlignment(Qt::AlignLeading | Qt::AlignTop);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setVerticalScrollBar(new ThemedScrollBar(Qt::Vertical, scroll));
-    scroll->setWidget(content);
-    content->setAutoFillBackground(false); // The window's ground shows through.
 
     auto *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
     page->setSpacing(kSpacing);
-    page->addWidget(m_search);
+    page->addLayout(top);
     page->addWidget(scroll, 1);
 }
 

@@ -40,6 +40,7 @@ VpnQuickEntry::VpnQuickEntry(AppState &state, RecentActivityStore &recents, Sear
     connect(&field, &QLineEdit::textChanged, this, &VpnQuickEntry::refresh);
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget *, QWidget *now) { closeUnlessInside(now); });
+    connect(&state, &AppState::runtimeChanged, this, &VpnQuickEntry::refresh);
     field.installEventFilter(this);
     connectPopup();
 }

@@ -1,5 +1,6 @@
 #include "VpnStatusCard.h"
 
+#include "Announce.h"
 #include "ElidedLabel.h"
 #include "FlagLabel.h"
 #include "PlainText.h"
@@ -8,7 +9,6 @@
 #include "TextStyle.h"
 #include "VpnSummary.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -75,9 +75,8 @@ void VpnStatusCard::render(const VpnSummary &summary)
     m_intent = action.intent;
     const bool isNews = m_title->text() != action.title;
     m_title->setText(action.title);
-    if (isNews && isVisible()) {
-        QAccessibleEvent alert(m_title, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
+    if (isNews && window()->isVisible()) { // Also who looks at another page wants to know.
+        announce(*m_title);
     }
     setStyleProperty(*m_dot, "vantuStatusState", action.statusState);
     setStyleProperty(*m_detail, "vantuRole", summary.detailIsError ? u"error"_s : u"muted"_s);
