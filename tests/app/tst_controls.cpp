@@ -4,8 +4,6 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSignalSpy>
 
 namespace {
@@ -65,7 +63,6 @@ private Q_SLOTS:
     void sessionEndsAmidEdits();
     void repair();
     void openLogs();
-    void clickOnHalfHidden();
     void renewal();
     void daemonThatComesBack();
     void editorKeepsText();
@@ -332,26 +329,6 @@ void TestControls::openLogs()
     QVERIFY(p.press(u"VantuSettingsOpenLogs"_s));
     QTRY_COMPARE(opened, u"/"_s);
     QCOMPARE(p.desk.notice(), u"Could not open log directory: /"_s);
-}
-
-/// The focus that a press gives must not scroll the button away from under it.
-void TestControls::clickOnHalfHidden()
-{
-    Person p;
-    QVERIFY(p.start());
-    Person::ctrl(Qt::Key_4);
-    QUrl opened;
-    p.desk.shell().windows().setLinkOpener([&opened](const QUrl &url) {
-        opened = url;
-        return true;
-    });
-    auto *area = p.see<QScrollArea>(u"VantuSettingsScrollArea"_s);
-    auto *link = p.desk.window()->findChild<QWidget *>(u"VantuSettingsFAQ"_s);
-    const int top = link->mapTo(area->widget(), QPoint()).y();
-    area->verticalScrollBar()->setValue(top + 10 - area->viewport()->height());
-    QTest::mouseClick(p.desk.window()->windowHandle(), Qt::LeftButton, {},
-                      link->mapTo(p.desk.window(), QPoint(link->width() / 2, 5)));
-    QTRY_COMPARE(opened, QUrl(u"https://www.vantuvpn.com/faq"_s));
 }
 
 void TestControls::renewal()

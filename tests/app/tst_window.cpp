@@ -12,6 +12,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTest>
@@ -273,6 +275,26 @@ private Q_SLOTS:
             const bool looks = key == Qt::Key_2 || key == Qt::Key_F;
             QTRY_COMPARE(fetched(), looks);
         }
+    }
+
+    /// The focus that a press gives must not scroll the button away from under it.
+    void clickOnHalfHidden()
+    {
+        Person p;
+        QVERIFY(p.start());
+        Person::ctrl(Qt::Key_4);
+        QUrl opened;
+        p.desk.shell().windows().setLinkOpener([&opened](const QUrl &url) {
+            opened = url;
+            return true;
+        });
+        auto *area = p.see<QScrollArea>(u"VantuSettingsScrollArea"_s);
+        auto *link = p.desk.window()->findChild<QWidget *>(u"VantuSettingsFAQ"_s);
+        const int top = link->mapTo(area->widget(), QPoint()).y();
+        area->verticalScrollBar()->setValue(top + 10 - area->viewport()->height());
+        QTest::mouseClick(p.desk.window()->windowHandle(), Qt::LeftButton, {},
+                          link->mapTo(p.desk.window(), QPoint(link->width() / 2, 5)));
+        QTRY_COMPARE(opened, QUrl(u"https://www.vantuvpn.com/faq"_s));
     }
 };
 
