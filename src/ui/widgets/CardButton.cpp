@@ -44,8 +44,6 @@ CardButton::CardButton(const QString &title, QWidget *parent)
     top->addWidget(m_title, 1);
     top->addWidget(m_chevron);
     auto *layout = new QVBoxLayout(this);
-    // The template's least height of buttons would let a tight page cut the value off.
-    layout->setSizeConstraint(QLayout::SetMinimumSize);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     layout->setSpacing(kSpacing);
     layout->addLayout(top);
@@ -84,7 +82,8 @@ bool CardButton::event(QEvent *event)
     case QEvent::StyleChange:
     case QEvent::FontChange:
     case QEvent::LayoutRequest:
-        // The least height that the style gives to buttons would be taken for a card's.
+        // The least height that the style gives to buttons would be taken for a card's, and
+        // a tight page would cut the value off.
         setMinimumHeight(minimumSizeHint().height());
         break;
     default:
