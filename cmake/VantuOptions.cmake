@@ -38,8 +38,8 @@ if(VANTU_FUZZ)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# Most of a compiler's time goes into Qt's headers. The presets for the sanitizers read
-# them once; the others don't, so that a missing include is found there.
+# Most of a compiler's time goes into Qt's headers. The presets for daily work read them
+# once; the release and the static checks don't, so that a missing include is found there.
 option(VANTU_PCH "Read Qt's headers once, into a precompiled header" OFF)
 if(VANTU_PCH)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)

@@ -56,12 +56,19 @@ struct Desk
                    daemon.routes().contains("GET /v1/nodes/groups");
         });
     }
-    bool poll(const QByteArray &answer)
+    bool poll(const QByteArray &answer) { return poll(Reply::json(answer)); }
+    bool poll(const Reply &answer)
     {
-        daemon.setDefault("GET /v1/status", Reply::json(answer));
+        daemon.setDefault("GET /v1/status", answer);
         QSignalSpy polled(&tray, &VantuTrayApp::statusPolled);
-        tray.refreshStatus();
-        return polled.wait();
+        // An answer under way may still be the old one.
+        for (int polls = 0; polls < 2; ++polls) {
+            tray.refreshStatus();
+            if (!polled.wait()) {
+                return false;
+            }
+        }
+        return true;
     }
     /// No status comes any more, so that a notification stays to be read.
     void holdPolls() { daemon.setDefault("GET /v1/status", heldJson(status("held"))); }

@@ -406,10 +406,7 @@ void TestTrayApp::iconNeverClaimsMore()
     const QImage off = m_host.icon();
     QVERIFY(desk.poll(status("connected")));
     QTRY_VERIFY(m_host.icon() != off);
-    desk.daemon.setDefault("GET /v1/status", reply);
-    QSignalSpy polled(&desk.tray, &VantuTrayApp::statusPolled);
-    desk.tray.refreshStatus();
-    QVERIFY(polled.wait());
+    QVERIFY(desk.poll(reply));
     QCOMPARE(m_host.icon(), off);
     QVERIFY(!m_host.toolTip().contains(u"connected"_s) ||
             m_host.toolTip() == u"Vantu: disconnected"_s);
