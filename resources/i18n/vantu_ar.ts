@@ -399,6 +399,10 @@
         <source>The setting holds until Vantu quits; it could not be saved.</source>
         <translation>يسري الإعداد حتى إنهاء Vantu فقط؛ تعذّر حفظه.</translation>
     </message>
+    <message>
+        <source>Could not clear history</source>
+        <translation>تعذّر مسح السجل</translation>
+    </message>
 </context>
 <context>
     <name>ModePage</name>

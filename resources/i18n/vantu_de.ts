@@ -399,6 +399,10 @@
         <source>The setting holds until Vantu quits; it could not be saved.</source>
         <translation>Die Einstellung gilt nur, bis Vantu beendet wird; sie konnte nicht gespeichert werden.</translation>
     </message>
+    <message>
+        <source>Could not clear history</source>
+        <translation>Verlauf konnte nicht geleert werden</translation>
+    </message>
 </context>
 <context>
     <name>ModePage</name>

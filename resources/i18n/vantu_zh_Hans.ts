@@ -399,6 +399,10 @@
         <source>The setting holds until Vantu quits; it could not be saved.</source>
         <translation>设置无法保存，仅在 Vantu 退出前有效。</translation>
     </message>
+    <message>
+        <source>Could not clear history</source>
+        <translation>无法清除历史记录</translation>
+    </message>
 </context>
 <context>
     <name>ModePage</name>

@@ -14,12 +14,11 @@ AccountController::AccountController(Parts parts, QObject *parent)
 
 bool AccountController::changeAllowed(OperationOrigin origin)
 {
-    if (!m_busy && m_parts.operationAllowed()) {
+    if (!m_busy && !m_parts.isOtherwiseBusy()) {
         return true;
     }
     if (origin == OperationOrigin::Window) {
-        m_parts.notices.show(ShellText::tr("Please wait for the current operation to finish"),
-                             MainWindow::NoticeKind::Info);
+        m_parts.notices.pleaseWait();
     }
     return false;
 }

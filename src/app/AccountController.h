@@ -28,8 +28,8 @@ public:
         AppState &state;
         NoticeSink &notices;
         ServiceCompatibility &compatibility;
-        /// No other operation runs anywhere, and the daemon is available.
-        std::function<bool()> operationAllowed;
+        /// Another operation runs, of the window's or of the tray's own.
+        std::function<bool()> isOtherwiseBusy;
     };
 
     explicit AccountController(Parts parts, QObject *parent = nullptr);

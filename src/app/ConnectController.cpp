@@ -56,7 +56,11 @@ bool ConnectController::connectAllowed()
 void ConnectController::disconnectRuntime(OperationOrigin origin)
 {
     // Neither a version nor an update may keep the user inside a connection.
-    if (!isBusy() && m_parts.operationAllowed()) {
+    if (m_parts.isOtherwiseBusy()) {
+        if (origin == OperationOrigin::Window) {
+            m_parts.notices.pleaseWait();
+        }
+    } else if (!isBusy()) {
         begin(Kind::Disconnecting, origin, m_parts.link.send(ControlRequest::DisconnectRuntime));
     }
 }
@@ -70,19 +74,18 @@ void ConnectController::cancel(OperationOrigin origin)
         for (const ControlRequest request :
              {ControlRequest::ConnectRuntime, ControlRequest::ConnectNode,
               ControlRequest::ConnectSmart}) {
-            if (const auto id = m_parts.link.pendingId(request)) {
-                m_parts.link.worker(WorkerLane::Session).cancelRequest(*id);
-                // Its answer no longer matters: the disconnect that follows decides.
-                m_parts.link.forget(request);
-            }
+            m_parts.link.cancel(request);
         }
-        // The disconnect undoes whatever the connect achieved, and waits as long as
-        // that takes.
+        // The disconnect decides from now on: it undoes whatever the connect achieved, and waits as
+        // long as that takes.
         begin(Kind::Cancelling, m_origin,
               m_parts.link.sendWithTimeout(ControlRequest::DisconnectRuntime, 0), m_label);
         return;
     case Kind::None:
         if (facts::isPending(m_parts.state.runtime()) && m_parts.compatibility.guardPasses()) {
+            // It may wait for the connection that is to be given up, and the disconnect
+            // would wait for it.
+            m_parts.cancelModeChange();
             begin(Kind::DisconnectingPending, origin,
                   m_parts.link.send(ControlRequest::DisconnectRuntime));
         }

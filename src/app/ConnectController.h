@@ -45,6 +45,10 @@ public:
         UpdateController &updates;
         /// No other operation runs anywhere, and the daemon is available.
         std::function<bool()> operationAllowed;
+        /// Another operation runs, of the window's or of the tray's own.
+        std::function<bool()> isOtherwiseBusy;
+        /// Gives up a mode change that runs, whoever asked for it.
+        std::function<void()> cancelModeChange;
     };
 
     explicit ConnectController(Parts parts, QObject *parent = nullptr);

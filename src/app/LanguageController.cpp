@@ -56,8 +56,7 @@ void LanguageController::change(const QString &source, const QString &language)
         return;
     }
     if (m_busy) {
-        m_parts.notices.show(ShellText::tr("Please wait for the current operation to finish"),
-                             MainWindow::NoticeKind::Info);
+        m_parts.notices.pleaseWait();
         return;
     }
     setBusy(true);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MainWindow.h"
+#include "ShellText.h"
 
 #include <QObject>
 
@@ -39,6 +40,13 @@ public:
     void show(const QString &message, MainWindow::NoticeKind kind, int timeoutMs = kTimeoutMs)
     {
         Q_EMIT noticeRequested(message, kind, timeoutMs);
+    }
+
+    /// Why a change was not begun: another one runs.
+    void pleaseWait()
+    {
+        show(ShellText::tr("Please wait for the current operation to finish"),
+             MainWindow::NoticeKind::Info);
     }
 
 Q_SIGNALS:

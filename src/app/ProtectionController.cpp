@@ -23,32 +23,31 @@ bool ProtectionController::changeAllowed()
     if (!m_parts.compatibility.changeGuardPasses()) {
         return false;
     }
-    if (m_busy || !m_parts.operationAllowed()) {
-        m_parts.notices.show(ShellText::tr("Please wait for the current operation to finish"),
-                             MainWindow::NoticeKind::Info);
+    if (isBusy() || !m_parts.operationAllowed()) {
+        m_parts.notices.pleaseWait();
         return false;
     }
     return true;
 }
 
-void ProtectionController::setBusy(bool busy)
+void ProtectionController::setChange(std::optional<ControlRequest> change)
 {
-    if (m_busy != busy) {
-        m_busy = busy;
-        Q_EMIT busyChanged(busy);
+    if (m_change != change) {
+        m_change = change;
+        Q_EMIT changeChanged();
     }
 }
 
 void ProtectionController::sendMode(const ModeInfo &mode)
 {
     m_requestedMode = mode;
-    setBusy(true);
+    setChange(ControlRequest::SetMode);
     m_parts.link.send(ControlRequest::SetMode, mode);
 }
 
 void ProtectionController::sendKillSwitchEnabled(bool enabled)
 {
-    setBusy(true);
+    setChange(ControlRequest::SetKillSwitchEnabled);
     m_parts.link.send(ControlRequest::SetKillSwitchEnabled, enabled);
 }
 
@@ -63,7 +62,7 @@ void ProtectionController::setMode(const ModeInfo &mode)
 void ProtectionController::setLocalNetwork(const QString &value)
 {
     if (changeAllowed()) {
-        setBusy(true);
+        setChange(ControlRequest::SetLocalNetworkPreference);
         m_parts.link.send(ControlRequest::SetLocalNetworkPreference, value);
     }
 }
@@ -71,7 +70,7 @@ void ProtectionController::setLocalNetwork(const QString &value)
 void ProtectionController::setSystemProxy(const QString &value)
 {
     if (changeAllowed()) {
-        setBusy(true);
+        setChange(ControlRequest::SetSystemProxyPreference);
         m_parts.link.send(ControlRequest::SetSystemProxyPreference, value);
     }
 }
@@ -86,8 +85,17 @@ void ProtectionController::setKillSwitchEnabled(bool enabled)
 void ProtectionController::setKillSwitchMode(const QString &mode)
 {
     if (changeAllowed()) {
-        setBusy(true);
+        setChange(ControlRequest::SetKillSwitchMode);
         m_parts.link.send(ControlRequest::SetKillSwitchMode, mode);
+    }
+}
+
+void ProtectionController::cancelModeChange()
+{
+    if (m_change == ControlRequest::SetMode) {
+        m_enableAfterMode = false;
+        m_parts.link.cancel(ControlRequest::SetMode);
+        setChange(std::nullopt);
     }
 }
 
@@ -117,7 +125,7 @@ void ProtectionController::resumePendingKillSwitchEnable()
 {
     // The mode may also have been changed in the tray, whose requests are its own.
     const ModeInfo &mode = m_parts.state.runtime().mode;
-    if (m_enablePending && mode.known && !facts::isProxyMode(mode) && !m_busy &&
+    if (m_enablePending && mode.known && !facts::isProxyMode(mode) && !isBusy() &&
         m_parts.operationAllowed()) {
         m_enablePending = false;
         sendKillSwitchEnabled(true);
@@ -144,12 +152,14 @@ void ProtectionController::handleMode(ControlRequest request, const ModeInfo &mo
     }
     if (!error.isEmpty()) {
         m_parts.notices.error(error, failure, page);
-        setBusy(false);
+        setChange(std::nullopt);
         return;
     }
-    RuntimeInfo runtime = m_parts.state.runtime();
-    runtime.mode = mode;
-    m_parts.state.setRuntime(runtime);
+    if (mode.known) {
+        RuntimeInfo runtime = m_parts.state.runtime();
+        runtime.mode = mode;
+        m_parts.state.setRuntime(runtime);
+    }
     if (request == ControlRequest::SetMode && !moderequest::isShownBy(m_requestedMode, mode)) {
         m_parts.notices.error({}, failure, page);
     } else if (enableNext) {
@@ -157,23 +167,19 @@ void ProtectionController::handleMode(ControlRequest request, const ModeInfo &mo
         sendKillSwitchEnabled(true);
         return;
     }
-    setBusy(false);
+    setChange(std::nullopt);
 }
 
 void ProtectionController::handleKillSwitch(ControlRequest request, const KillSwitchInfo &info,
                                             const QString &error)
 {
     const bool isChange = request != ControlRequest::FetchKillSwitch;
-    if (isChange) {
-        // A read that was sent before may tell of the time before.
-        m_parts.link.forget(ControlRequest::FetchKillSwitch);
-    }
     if (error.isEmpty()) {
         m_parts.state.setKillSwitch(info);
     } else if (isChange) {
         m_parts.notices.error(error, ShellText::tr("Could not update kill switch"), Page::Settings);
     }
     if (isChange) {
-        setBusy(false);
+        setChange(std::nullopt);
     }
 }

@@ -34,13 +34,18 @@ public:
 
     explicit ProtectionController(Parts parts, QObject *parent = nullptr);
 
-    bool isBusy() const { return m_busy; }
+    bool isBusy() const { return m_change.has_value(); }
+    /// What runs, if anything.
+    std::optional<ControlRequest> change() const { return m_change; }
 
     void setMode(const ModeInfo &mode);
     void setLocalNetwork(const QString &value);
     void setSystemProxy(const QString &value);
     void setKillSwitchEnabled(bool enabled);
     void setKillSwitchMode(const QString &mode);
+
+    /// Gives up a mode change that runs, and what was to follow it.
+    void cancelModeChange();
 
     /// Leaves the proxy for the automatic mode, then turns the kill switch on.
     void switchToAutoAndEnableKillSwitch();
@@ -59,17 +64,18 @@ public:
     void handleKillSwitch(ControlRequest request, const KillSwitchInfo &info, const QString &error);
 
 Q_SIGNALS:
-    void busyChanged(bool busy);
+    /// Something else runs now, or nothing.
+    void changeChanged();
     void modePageRequested();
 
 private:
     bool changeAllowed();
-    void setBusy(bool busy);
+    void setChange(std::optional<ControlRequest> change);
     void sendMode(const ModeInfo &mode);
     void sendKillSwitchEnabled(bool enabled);
 
     Parts m_parts;
-    bool m_busy = false;
+    std::optional<ControlRequest> m_change;
     bool m_enableAfterMode = false; ///< The running mode change is the first of two steps.
     bool m_enablePending = false;   ///< The user is picking a VPN mode.
     ModeInfo m_requestedMode;

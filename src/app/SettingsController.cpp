@@ -66,8 +66,7 @@ void SettingsController::change(ControlRequest request, const Args &...args)
         return;
     }
     if (m_busy) {
-        m_notices.show(ShellText::tr("Please wait for the current operation to finish"),
-                       MainWindow::NoticeKind::Info);
+        m_notices.pleaseWait();
         return;
     }
     setBusy(true);

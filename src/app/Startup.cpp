@@ -226,7 +226,8 @@ StartupResult runVantu(int argc, char **argv, const StartupOptions &options)
     TranslationManager translations;
     loadLanguage(chooseLanguage(options.socketName, preferences), translations, preferences);
 
-    const bool isActivated = switches.autostart && waitForPanel(instance, endSignals);
+    const bool isActivated =
+        switches.autostart && !preferences.showOnLaunch() && waitForPanel(instance, endSignals);
     if (endSignals.isRequested()) {
         return {};
     }

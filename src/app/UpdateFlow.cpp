@@ -79,6 +79,8 @@ void begin(Step &next, qint64 offered)
     next.state.versionNum = offered;
     next.state.isOwn = true;
     next.effects.send = Request::StartGUIUpdateDownload;
+    // What became of an earlier download is over.
+    show(next, withState(Record(), Record::State::Idle));
 }
 
 void handle(Step &next, const StartAsked &event)

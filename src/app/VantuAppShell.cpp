@@ -55,12 +55,18 @@ VantuAppShell::~VantuAppShell()
 void VantuAppShell::makeConcerns()
 {
     const auto operationAllowed = [this] { return m_tray->guardPasses(); };
+    const auto isOtherwiseBusy = [this] { return m_tray->isBusy(); };
+    const auto cancelModeChange = [this] {
+        m_protection->cancelModeChange();
+        m_tray->cancelModeChange();
+    };
     m_compatibility = std::make_unique<ServiceCompatibility>(m_link, *m_state, *m_notices);
     m_updates = std::make_unique<UpdateController>(UpdateController::Parts{
         m_link, *m_state, *m_notices, *m_preferences, &QDateTime::currentSecsSinceEpoch,
         [this](const QString &path) { return m_windows->launchFile(path); }});
-    m_connection = std::make_unique<ConnectController>(ConnectController::Parts{
-        m_link, *m_state, *m_notices, *m_compatibility, *m_updates, operationAllowed});
+    m_connection = std::make_unique<ConnectController>(
+        ConnectController::Parts{m_link, *m_state, *m_notices, *m_compatibility, *m_updates,
+                                 operationAllowed, isOtherwiseBusy, cancelModeChange});
     m_catalog = std::make_unique<CatalogController>(m_link, *m_state, *m_notices, *m_compatibility);
     m_favorites = std::make_unique<FavoriteController>(m_link, *m_state, *m_notices,
                                                        *m_compatibility, *m_catalog);
@@ -68,7 +74,7 @@ void VantuAppShell::makeConcerns()
     m_protection = std::make_unique<ProtectionController>(ProtectionController::Parts{
         m_link, *m_state, *m_notices, *m_compatibility, operationAllowed});
     m_account = std::make_unique<AccountController>(
-        AccountController::Parts{m_link, *m_state, *m_notices, *m_compatibility, operationAllowed});
+        AccountController::Parts{m_link, *m_state, *m_notices, *m_compatibility, isOtherwiseBusy});
     m_language = std::make_unique<LanguageController>(
         LanguageController::Parts{m_link, *m_state, *m_notices, *m_preferences, *m_compatibility,
                                   [this] { return isIdle(); }});
@@ -98,6 +104,7 @@ void VantuAppShell::start()
     }
     m_compatibility->start();
     m_windows->setHideToTray(tray);
+    m_windows->setTrayProbe(&TrayHostWatch::isHostPresent);
     m_tray->start();
     if (!tray || m_preferences->showOnLaunch()) {
         m_windows->showOrRaise();
@@ -133,9 +140,13 @@ void VantuAppShell::noteStatus(quint64 requestId, const RuntimeInfo &info,
                                const QString &errorMessage)
 {
     Q_UNUSED(requestId) // Whoever asked: it tells whether the daemon is there.
-    m_statusReceived = true;
-    m_statusError = errorMessage;
-    publishAvailability();
+    // An answer that came too late for the store must not vouch for what is there.
+    m_statusReceived = m_statusReceived || !errorMessage.isEmpty() || m_tray->isStatusKnown();
+    // While an operation runs there is no next poll that would take an error back.
+    if (errorMessage.isEmpty() || !m_tray->isBusy()) {
+        m_statusError = errorMessage;
+        publishAvailability();
+    }
     m_compatibility->noteStatus(info, errorMessage);
 }
 
@@ -166,16 +177,22 @@ void VantuAppShell::publishAvailability()
 
 void VantuAppShell::publishExternalBusy()
 {
-    const bool busy = m_protection->isBusy() || m_account->isBusy();
-    if (!busy) {
+    m_tray->setExternalBusy(m_protection->isBusy() || m_account->isBusy());
+}
+
+void VantuAppShell::handleOperationChanged()
+{
+    if (!m_tray->isBusy()) {
+        // What was asked before the end may tell of the time before.
         m_catalog->dropStatusUnderWay();
+        m_link.forget(ControlRequest::FetchKillSwitch);
     }
-    m_tray->setExternalBusy(busy);
+    publishActivity();
 }
 
 void VantuAppShell::refetchAll()
 {
-    m_tray->pollSoon();
+    m_tray->refreshStatus();
     // The tray asks for the first catalogue by itself, with its first status.
     if (m_catalog->isHeld()) {
         m_catalog->fetch();
@@ -200,7 +217,10 @@ void VantuAppShell::refetchSettings()
 void VantuAppShell::publishActivity()
 {
     OperationActivity activity;
-    activity.changingMode = m_protection->isBusy();
+    const auto change = m_protection->change();
+    activity.changingMode = change == ControlRequest::SetMode || m_tray->changes().isChangingMode();
+    activity.changingLocalNetwork = change == ControlRequest::SetLocalNetworkPreference ||
+                                    m_tray->changes().isChangingLocalNetwork();
     activity.changingSettings =
         m_protection->isBusy() || m_settings->isBusy() || m_language->isBusy();
     activity.checkingUpdate = m_checkingUpdate;
@@ -239,7 +259,6 @@ void VantuAppShell::handleConnectEnded(ConnectController::Kind kind, quint64 req
 {
     using Kind = ConnectController::Kind;
     m_windows->setConnectProgress(m_connection->progress());
-    m_catalog->dropStatusUnderWay();
     const bool wasConnect =
         kind == Kind::ConnectRuntime || kind == Kind::ConnectNode || kind == Kind::ConnectSmart;
     if (wasConnect) {

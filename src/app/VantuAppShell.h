@@ -183,6 +183,7 @@ private:
     void noteNodes(quint64 requestId, const NodesInfo &nodes, const QString &errorMessage);
     void publishAvailability();
     void publishExternalBusy();
+    void handleOperationChanged();
     void publishActivity();
     void refetchSettings();
     void refetchAll();

@@ -23,7 +23,6 @@ void VantuAppShell::connectWorkers()
 {
     using Shell = VantuAppShell;
     using Worker = ControlWorker;
-    connect(&m_link.worker(WorkerLane::Reads), &Worker::statusFinished, this, &Shell::noteStatus);
     // Which worker carries a request is the link's business, so that every answer of
     // every worker is listened to.
     for (ControlWorker *worker : m_pool->workers()) {
@@ -58,6 +57,7 @@ void VantuAppShell::connectWorkers()
                 &Shell::handleWindowPurchaseURLFinished);
     }
     // Last, so that the store holds the answer already.
+    connect(&m_link.worker(WorkerLane::Reads), &Worker::statusFinished, this, &Shell::noteStatus);
     connect(&m_link.worker(WorkerLane::Reads), &Worker::nodesFinished, this, &Shell::noteNodes);
 }
 
@@ -162,7 +162,9 @@ void VantuAppShell::connectConcerns()
             &WindowController::showOrRaise);
 
     connect(m_compatibility.get(), &ServiceCompatibility::stateChanged, this, [this] {
-        m_tray->setDaemonAvailable(m_compatibility->isAvailable(), m_compatibility->reason());
+        m_tray->setDaemonAvailable(m_compatibility->isAvailable(), m_compatibility->reason(),
+                                   m_compatibility->state() ==
+                                       ServiceCompatibility::State::Checking);
         publishAvailability();
     });
     connect(m_compatibility.get(), &ServiceCompatibility::serviceFound, this, &Shell::refetchAll);
@@ -215,11 +217,13 @@ void VantuAppShell::connectBusyConcerns()
 {
     using Shell = VantuAppShell;
     // These exclude the tray's own operations.
-    connect(m_protection.get(), &ProtectionController::busyChanged, this,
+    connect(m_protection.get(), &ProtectionController::changeChanged, this,
             &Shell::publishExternalBusy);
     connect(m_account.get(), &AccountController::busyChanged, this, &Shell::publishExternalBusy);
 
-    connect(m_protection.get(), &ProtectionController::busyChanged, this, &Shell::publishActivity);
+    connect(m_protection.get(), &ProtectionController::changeChanged, this,
+            &Shell::publishActivity);
+    connect(m_tray.get(), &VantuTrayApp::operationChanged, this, &Shell::handleOperationChanged);
     connect(m_account.get(), &AccountController::busyChanged, this, &Shell::publishActivity);
     connect(m_account.get(), &AccountController::openingRenewalChanged, this,
             &Shell::publishActivity);

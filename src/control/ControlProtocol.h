@@ -6,7 +6,7 @@
 
 /// The fixed facts of the daemon's control protocol: where it listens, which
 /// version this program speaks, how long the transport waits, and the words that
-/// travel as JSON strings. No other file spells one of these words.
+/// travel as JSON strings. What sends or compares such a word names it as here.
 namespace control {
 
 /// The daemon's Unix socket; members of the group "vantucli" may open it.
@@ -92,6 +92,7 @@ inline constexpr QLatin1StringView kSchemeHttp{"http"};
 
 // Sources of the daemon's language setting.
 inline constexpr QLatin1StringView kLanguageSourceSystem{"system"};
+inline constexpr QLatin1StringView kLanguageSourceExplicit{"explicit"};
 
 // Kinds of a catalogue tab.
 inline constexpr QLatin1StringView kGroupTypeFavorite{"favorite"};

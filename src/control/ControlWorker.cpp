@@ -64,7 +64,7 @@ void ControlWorker::run(Finished<Record> finished, quint64 requestId,
 }
 
 template<class Record, class... Parameters, class... Values>
-void ControlWorker::runConnect(Finished<Record> finished, quint64 requestId,
+void ControlWorker::runEndless(Finished<Record> finished, quint64 requestId,
                                Operation<Record, Parameters...> operation, const Values &...values)
 {
     if (!begin()) {
@@ -83,7 +83,7 @@ void ControlWorker::perform(Finished<Record> finished, quint64 requestId,
 {
     QString errorText;
     const Record record = (m_client.*operation)(values..., errorText);
-    // A late cancel of this connect must not hit the next request.
+    // A late cancel of this request must not hit the next request.
     m_inFlightId = kNoRequest;
     Q_EMIT(this->*finished)(requestId, record, errorText);
 }
@@ -207,19 +207,19 @@ void ControlWorker::fetchKillSwitch(quint64 requestId, int timeoutMs)
 
 void ControlWorker::connectRuntime(quint64 requestId, int timeoutMs)
 {
-    runConnect(&ControlWorker::connectFinished, requestId, &ControlClient::connectRuntime,
+    runEndless(&ControlWorker::connectFinished, requestId, &ControlClient::connectRuntime,
                timeoutMs);
 }
 
 void ControlWorker::connectNode(quint64 requestId, const QString &node, int timeoutMs)
 {
-    runConnect(&ControlWorker::connectFinished, requestId, &ControlClient::connectNode, node,
+    runEndless(&ControlWorker::connectFinished, requestId, &ControlClient::connectNode, node,
                timeoutMs);
 }
 
 void ControlWorker::connectSmart(quint64 requestId, const QString &selector, int timeoutMs)
 {
-    runConnect(&ControlWorker::connectFinished, requestId, &ControlClient::connectSmart, selector,
+    runEndless(&ControlWorker::connectFinished, requestId, &ControlClient::connectSmart, selector,
                timeoutMs);
 }
 
@@ -243,7 +243,7 @@ void ControlWorker::logout(quint64 requestId, int timeoutMs)
 
 void ControlWorker::setMode(quint64 requestId, const ModeInfo &mode, int timeoutMs)
 {
-    run(&ControlWorker::modeFinished, requestId, &ControlClient::setMode, mode, timeoutMs);
+    runEndless(&ControlWorker::modeFinished, requestId, &ControlClient::setMode, mode, timeoutMs);
 }
 
 void ControlWorker::setSystemProxyPreference(quint64 requestId, const QString &value, int timeoutMs)

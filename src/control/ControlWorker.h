@@ -37,8 +37,8 @@ public:
     /// Ends the request that runs, if any, with "control request canceled".
     void cancelCurrentRequest();
 
-    /// Ends the connect with this id, whether it runs or is still queued. Any other
-    /// request is left alone.
+    /// Ends the connect or the mode change with this id, whether it runs or is still
+    /// queued. Any other request is left alone; it ends by its time-out.
     void cancelRequest(quint64 requestId);
 
 Q_SIGNALS:
@@ -147,7 +147,7 @@ private:
 
     /// The body of the three connects, which can be canceled by their id.
     template<class Record, class... Parameters, class... Values>
-    void runConnect(Finished<Record> finished, quint64 requestId,
+    void runEndless(Finished<Record> finished, quint64 requestId,
                     Operation<Record, Parameters...> operation, const Values &...values);
 
     template<class Record, class... Parameters, class... Values>
@@ -157,10 +157,10 @@ private:
     bool begin();
 
     // Sequentially consistent (the default): shutDown() against begin(), and
-    // cancelRequest() against runConnect(), each write one and then read another.
+    // cancelRequest() against runEndless(), each write one and then read another.
     std::atomic_bool m_cancelFlag = false;
     std::atomic_bool m_isStopped = false;
-    std::atomic<quint64> m_inFlightId = kNoRequest; ///< The connect that runs.
+    std::atomic<quint64> m_inFlightId = kNoRequest; ///< The endless request that runs.
     std::atomic<quint64> m_cancelTargetId = kNoRequest;
     ControlClient m_client; ///< Reads the cancel flag.
 };

@@ -153,6 +153,15 @@ void RequestLink::forget(ControlRequest request)
     m_pending.remove(request);
 }
 
+void RequestLink::cancel(ControlRequest request)
+{
+    const auto entry = m_pending.constFind(request);
+    if (entry != m_pending.constEnd()) {
+        worker(requestRoute(request).lane).cancelRequest(*entry);
+        m_pending.erase(entry);
+    }
+}
+
 ControlWorker &RequestLink::worker(WorkerLane lane) const
 {
     return *m_workers[static_cast<std::size_t>(lane)];

@@ -117,12 +117,15 @@ public:
     /// the answer is stale and must be ignored.
     [[nodiscard]] std::optional<ControlRequest> take(quint64 id);
 
+    bool isPending(ControlRequest request) const;
     /// The id of the awaited answer to `request`, if any.
     std::optional<quint64> pendingId(ControlRequest request) const;
-    bool isPending(ControlRequest request) const;
 
     /// Stops waiting for the answer to `request`; a late one is stale then.
     void forget(ControlRequest request);
+    /// Ends a connect or a mode change, of which nobody awaits an answer any more. The
+    /// daemon may have carried it out all the same.
+    void cancel(ControlRequest request);
 
     ControlWorker &worker(WorkerLane lane) const;
 

@@ -20,7 +20,8 @@ public:
     bool isRequested() const { return m_isRequested; }
 
 Q_SIGNALS:
-    /// Told once for each signal, in the event loop, also in a nested one.
+    /// Told in the event loop, also in a nested one; once for several signals that came
+    /// before it.
     void requested();
 
 private:

@@ -7,10 +7,10 @@
 
 /// The one observable copy of what the daemon last reported.
 ///
-/// Owned by the shell, which alone writes it; the tray and the pages read it and
-/// redraw on its signals. Lives on the GUI thread. A setter emits only when the
-/// value differs in any field from the one held, so that an unchanged poll answer
-/// redraws nothing.
+/// Owned by the shell. Whoever takes an answer of the daemon writes it, which is the shell
+/// with its concerns and the tray; the pages only read it and redraw on its signals. Lives
+/// on the GUI thread. A setter emits only when the value differs in any field from the one
+/// held, so that an unchanged poll answer redraws nothing.
 class AppState final : public QObject
 {
     Q_OBJECT

@@ -17,7 +17,12 @@ bool RecentActivityStore::addSearch(const QString &search)
 
 bool RecentActivityStore::clearSearches()
 {
-    return m_preferences.setRecentSearches({});
+    const QStringList before = searches();
+    if (m_preferences.setRecentSearches({})) {
+        return true;
+    }
+    m_preferences.setRecentSearches(before);
+    return false;
 }
 
 QList<RecentNode> RecentActivityStore::nodes() const

@@ -16,10 +16,12 @@ public:
 
     QStringList searches() const;
     bool addSearch(const QString &search);
+    /// Puts them back when the file can't be written, and returns false.
     bool clearSearches();
 
     QList<RecentNode> nodes() const;
     bool addNode(const RecentNode &node);
+    /// The same for the places.
     bool clearNodes();
     /// The user emptied the list and nothing was added since.
     bool nodesCleared() const;

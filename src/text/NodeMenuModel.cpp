@@ -117,7 +117,8 @@ bool NodeMenuModel::isFavouritesTab(const NodeGroupTab &tab)
 bool NodeMenuModel::isFavouritesGroup(const QString &kind, const NodeGroup &group)
 {
     return facts::isWord(kind, wire::kGroupTypeFavorite) &&
-           (facts::isWord(group.code, "fav"_L1) || facts::isWord(group.code, "favorite"_L1) ||
+           (facts::isWord(group.code, "fav"_L1) ||
+            facts::isWord(group.code, wire::kGroupTypeFavorite) ||
             facts::isWord(group.name, "favorites"_L1));
 }
 

@@ -160,6 +160,15 @@ void TrayChanges::begin(ControlRequest request, const QString &progressText,
     Q_EMIT begun();
 }
 
+void TrayChanges::cancelModeChange()
+{
+    if (isChangingMode()) {
+        m_link.cancel(ControlRequest::SetMode);
+        m_operations.end(TrayBusy::Mode);
+        Q_EMIT ended({});
+    }
+}
+
 void TrayChanges::takeMode(quint64 requestId, const ModeInfo &mode, const QString &errorMessage)
 {
     const auto request = m_link.take(requestId);

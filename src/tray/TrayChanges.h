@@ -42,13 +42,22 @@ public:
     void setVantuGFWList(bool enabled);
     void setVantuCustomRules(bool enabled);
 
+    /// Gives up a mode change that runs, without a word.
+    void cancelModeChange();
+    /// Whether the mode is being changed.
+    bool isChangingMode() const { return m_link.isPending(ControlRequest::SetMode); }
+    bool isChangingLocalNetwork() const
+    {
+        return m_link.isPending(ControlRequest::SetLocalNetworkPreference);
+    }
+
     void takeMode(quint64 requestId, const ModeInfo &mode, const QString &errorMessage);
     /// Answers of the poll's read as well as of the change.
     void takeKillSwitch(quint64 requestId, const KillSwitchInfo &info, const QString &errorMessage);
 
 Q_SIGNALS:
     void begun();
-    /// A change was answered; `text` tells the user how it went.
+    /// A change was answered; `text` tells the user how it went. Empty: it was given up.
     void ended(const QString &text);
     void switchToAutoAndEnableKillSwitchRequested();
     void chooseModeForKillSwitchRequested();

@@ -34,14 +34,18 @@ TrayFace::TrayFace(const AppState &state, TrayLayout layout, QObject *parent)
 void TrayFace::connectMenu()
 {
     connect(&m_menu, &TrayMenu::chosen, this, [this](TrayEntry entry, bool checked) {
-        Q_EMIT chosen(entry, checked, m_asCancel);
+        // A slot is the node that it showed, whatever the list says by now.
+        if (const QString nodeID = m_menu.action(entry)->data().toString(); !nodeID.isEmpty()) {
+            Q_EMIT nodeChosen(nodeID);
+        } else {
+            Q_EMIT chosen(entry, checked, m_asCancel);
+        }
         handleEntryChosen();
     });
-    connect(&m_nodeMenu, &TrayNodeMenu::nodeChosen, this,
-            [this](const QString &nodeID, const QString &label) {
-                Q_EMIT nodeChosen(nodeID, label);
-                handleEntryChosen();
-            });
+    connect(&m_nodeMenu, &TrayNodeMenu::nodeChosen, this, [this](const QString &nodeID) {
+        Q_EMIT nodeChosen(nodeID);
+        handleEntryChosen();
+    });
     connect(&m_proxyRegions, &TrayRegionMenu::regionChosen, this, [this](const QString &code) {
         Q_EMIT proxyRegionChosen(code);
         handleEntryChosen();

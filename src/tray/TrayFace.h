@@ -50,7 +50,7 @@ Q_SIGNALS:
     /// `checked` is what the entry's mark would be then; the mark itself stays as it
     /// was. `asCancel`: the connect entry read "Cancel" when it was chosen.
     void chosen(TrayEntry entry, bool checked, bool asCancel);
-    void nodeChosen(const QString &nodeID, const QString &label);
+    void nodeChosen(const QString &nodeID);
     void proxyRegionChosen(const QString &code);
     void vpnRegionChosen(const QString &code);
 

@@ -32,6 +32,7 @@ public:
         , m_live(condition.daemonAvailable && condition.statusKnown && !condition.statusFailed)
         , m_idle(m_live && !condition.busy)
         , m_connected(facts::isConnected(state.runtime()))
+        , m_unconfirmed(condition.connectBusy || condition.unheard)
         , m_lockdown(facts::isLockdown(facts::effectiveKillSwitch(state)))
     {}
 
@@ -76,6 +77,10 @@ private:
     const bool m_live; ///< The status held is the daemon's present word.
     const bool m_idle; ///< Operations may be begun.
     const bool m_connected;
+    /// Whether it is still so nobody knows: a protection that nobody confirms is not shown.
+    /// Connections are made and ended, and modes changed, for as long as it takes, and the
+    /// daemon isn't asked meanwhile.
+    const bool m_unconfirmed;
     const bool m_lockdown;
     TrayMenuState m_menu;
 };
@@ -98,11 +103,14 @@ QString Derivation::title() const
 
 QString Derivation::detail() const
 {
+    if (!m_condition.daemonAvailable && !m_condition.unavailableReason.isEmpty()) {
+        return m_condition.unavailableReason;
+    }
     if (!m_condition.notice.isEmpty()) {
         return m_condition.notice;
     }
-    if (!m_condition.daemonAvailable && !m_condition.unavailableReason.isEmpty()) {
-        return m_condition.unavailableReason;
+    if (m_condition.refreshing) {
+        return TrayMenuText::refreshingNodes();
     }
     if (m_condition.statusFailed) {
         return m_condition.statusError.isEmpty() ? TrayMenuText::daemonUnavailable()
@@ -111,7 +119,7 @@ QString Derivation::detail() const
     if (!m_condition.statusKnown) {
         return QCoreApplication::translate("VantuTrayApp", "Daemon: checking...");
     }
-    if (m_connected) {
+    if (m_connected && !m_unconfirmed) {
         return NodeMenuModel::locationLine(m_runtime, m_state.nodes(), m_condition.now);
     }
     const QString error = plaintext::singleLine(m_runtime.lastError);
@@ -127,16 +135,13 @@ void Derivation::deriveStatus()
     m_menu[TrayEntry::RefreshStatus].enabled = m_condition.daemonAvailable && !m_condition.busy;
     m_menu[TrayEntry::OpenLogs].enabled = !m_condition.logsInFlight;
 
-    // A protection that nobody confirms any more is not shown; while a connection is made
-    // or ended, which may take for ever, the daemon isn't asked.
-    m_menu.iconOn = m_live && m_connected && !m_condition.connectBusy;
-    if (m_live && m_condition.connectBusy) {
+    m_menu.iconOn = m_live && m_connected && !m_unconfirmed;
+    if (m_live && m_unconfirmed) {
         m_menu.toolTip = plaintext::messageText(title());
     } else if (m_live) {
         m_menu.toolTip =
             plaintext::messageText(TrayMenuText::status(labels::connectionState(m_runtime)));
-    } else if (m_condition.statusFailed ||
-               (m_condition.wasAvailable && !m_condition.daemonAvailable)) {
+    } else if (m_condition.statusFailed || (m_condition.judged && !m_condition.daemonAvailable)) {
         m_menu.toolTip = TrayMenuText::toolTipUnavailable();
     } else {
         m_menu.toolTip = TrayMenuText::vantu();
@@ -274,7 +279,7 @@ void Derivation::deriveNetwork()
 QString Derivation::accountText() const
 {
     const bool lost =
-        m_condition.statusFailed || (m_condition.wasAvailable && !m_condition.daemonAvailable);
+        m_condition.statusFailed || (m_condition.judged && !m_condition.daemonAvailable);
     if (lost) {
         return TrayMenuText::accountUnavailable();
     }

@@ -100,17 +100,19 @@ struct TrayMenuState
 struct TrayCondition
 {
     bool daemonAvailable = false;
-    bool wasAvailable = false; ///< Since the program's start.
+    bool judged = false; ///< It was found fit or unfit at all, since the program's start.
     QString unavailableReason;
     bool statusKnown = false;  ///< A status was received at all.
     bool statusFailed = false; ///< The latest status request failed.
     QString statusError;       ///< Its error, maybe empty.
     bool busy = false;         ///< Any operation locks the menu.
     QString progressText;      ///< Of that operation; empty keeps the status line.
+    bool unheard = false;      ///< It has kept the daemon from being asked for long.
     bool connectBusy = false;  ///< That operation is a connect.
     bool connectCancellable = false;
     bool nodesHeld = false;     ///< Nodes were received at all, if only an empty list.
     bool nodesInFlight = false; ///< A request of nodes or node groups.
+    bool refreshing = false;    ///< That request is the user's refresh.
     bool userInFlight = false;
     bool logsInFlight = false;
     QString notice;                ///< Text of the latest notification, until the next status.

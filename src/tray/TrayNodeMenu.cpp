@@ -7,7 +7,6 @@
 #include <QAction>
 #include <QMenu>
 
-#include <algorithm>
 #include <utility>
 
 TrayNodeMenu::TrayNodeMenu(QMenu &menu, QAction &before, QObject *parent)
@@ -48,13 +47,6 @@ void TrayNodeMenu::release()
         m_plan = {};
         m_built = false;
     }
-}
-
-bool TrayNodeMenu::isShowing() const
-{
-    const auto menus = m_menu.findChildren<QMenu *>();
-    return std::any_of(menus.begin(), menus.end(),
-                       [](const QMenu *menu) { return menu->isVisible(); });
 }
 
 void TrayNodeMenu::clear()
@@ -108,10 +100,10 @@ QAction *TrayNodeMenu::makeNode(const TrayNodeItem &item, QMenu &menu)
     action->setData(item.id);
     action->setCheckable(true);
     action->setToolTip(item.toolTip);
-    connect(action, &QAction::triggered, this, [this, action, id = item.id, label = item.label] {
+    connect(action, &QAction::triggered, this, [this, action, id = item.id] {
         // The click has turned the mark, which belongs to the selected node.
         action->setChecked(id == m_selectedId);
-        Q_EMIT nodeChosen(id, label);
+        Q_EMIT nodeChosen(id);
     });
     menu.addAction(action);
     m_actions.insert(item.id, action);

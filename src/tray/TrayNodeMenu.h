@@ -4,8 +4,6 @@
 
 #include <QMultiHash>
 #include <QObject>
-#include <QPointer>
-#include <QSet>
 
 class QAction;
 class QMenu;
@@ -33,11 +31,9 @@ public:
     qsizetype nodeActionCount() const { return m_actions.size(); }
     /// Number of group submenus that now hold entries.
     int expandedCount() const { return m_expanded; }
-    /// Whether one of the submenus is on the screen.
-    bool isShowing() const;
 
 Q_SIGNALS:
-    void nodeChosen(const QString &nodeID, const QString &label);
+    void nodeChosen(const QString &nodeID);
 
 private:
     void rebuild();

@@ -1,5 +1,6 @@
 #include "TrayNodePlan.h"
 
+#include "ControlProtocol.h"
 #include "NodeMenuModel.h"
 #include "PlainText.h"
 #include "TrayMenuText.h"
@@ -92,7 +93,7 @@ private:
             const char *text = nullptr;
         };
         static constexpr std::array kNames{
-            TabName{"favorite"_L1, QT_TRANSLATE_NOOP("VantuTrayApp", "Favorites")},
+            TabName{wire::kGroupTypeFavorite, QT_TRANSLATE_NOOP("VantuTrayApp", "Favorites")},
             TabName{"free"_L1, QT_TRANSLATE_NOOP("VantuTrayApp", "Free")},
             TabName{"vip"_L1, QT_TRANSLATE_NOOP("VantuTrayApp", "VIP")},
             TabName{"svip"_L1, QT_TRANSLATE_NOOP("VantuTrayApp", "SVIP")},
@@ -128,7 +129,6 @@ private:
             known = m_items.insert(node.id,
                                    {.id = node.id,
                                     .text = plaintext::menuText(NodeMenuModel::entryText(node)),
-                                    .label = NodeMenuModel::labelOrNone(node),
                                     .toolTip = NodeMenuModel::toolTip(node)});
         }
         return *known;

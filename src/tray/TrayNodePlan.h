@@ -9,8 +9,7 @@
 struct TrayNodeItem
 {
     QString id;
-    QString text;  ///< Ready for a menu.
-    QString label; ///< The node's plain label.
+    QString text; ///< Ready for a menu.
     QString toolTip;
 
     bool operator==(const TrayNodeItem &) const = default;

@@ -41,7 +41,6 @@ void TrayPoll::setAvailable(bool available)
     const bool gained = available && !m_available;
     m_available = available;
     if (gained) {
-        m_wasAvailable = true;
         m_statusFailed = false;
         if (m_started) {
             refresh();

@@ -38,7 +38,6 @@ public:
     /// answers under way.
     void setAvailable(bool available);
     bool isAvailable() const { return m_available; }
-    bool wasAvailable() const { return m_wasAvailable; }
 
     /// Asks now, unless that is under way.
     void refresh();
@@ -57,6 +56,8 @@ public:
     /// Nodes were received at all, if only an empty list.
     bool areNodesHeld() const { return m_nodesHeld; }
     bool isCatalogueInFlight() const;
+    /// The catalogue is under way because the user refreshes it.
+    bool isRefreshing() const { return m_refreshing && isCatalogueInFlight(); }
 
     // Answers of the workers. Those that nobody awaits are dropped.
     void takeStatus(quint64 requestId, const RuntimeInfo &info, const QString &errorMessage);
@@ -85,7 +86,6 @@ private:
     QTimer m_timer;
     bool m_started = false;
     bool m_available = false;
-    bool m_wasAvailable = false;
     bool m_statusKnown = false;
     bool m_statusFailed = false;
     QString m_statusError;

@@ -1,6 +1,7 @@
 #include "VantuTrayApp.h"
 
 #include "AppState.h"
+#include "NodeMenuModel.h"
 #include "PlainText.h"
 #include "RuntimeFacts.h"
 #include "TrayChoices.h"
@@ -47,13 +48,15 @@ VantuTrayApp::VantuTrayApp(AppState &state, const ControlWorkers &workers,
 {
     connect(&m_poll, &TrayPoll::statusAnswered, this, &VantuTrayApp::handleStatusAnswered);
     connect(&m_poll, &TrayPoll::refreshFailed, this, &VantuTrayApp::notifyFailure);
-    connect(&m_changes, &TrayChanges::begun, this, [this] {
-        m_notice.clear();
-        update();
-    });
+    m_unheard.setSingleShot(true);
+    m_unheard.setInterval(TrayPoll::kActive);
+    connect(&m_unheard, &QTimer::timeout, this, &VantuTrayApp::update);
+    connect(&m_changes, &TrayChanges::begun, this, &VantuTrayApp::handleOperationBegun);
     connect(&m_changes, &TrayChanges::ended, this, [this](const QString &text) {
         handleOperationEnded();
-        notify(TrayMenuText::vantu(), text);
+        if (!text.isEmpty()) {
+            notify(TrayMenuText::vantu(), text);
+        }
     });
     connectWorkers(workers);
     connectStore();
@@ -120,11 +123,13 @@ void VantuTrayApp::start()
     m_poll.start();
 }
 
-void VantuTrayApp::setDaemonAvailable(bool available, const QString &reason)
+void VantuTrayApp::setDaemonAvailable(bool available, const QString &reason, bool checking)
 {
+    m_judged = m_judged || !checking;
     m_unavailableReason = available ? QString{} : plaintext::singleLine(reason);
     if (!available) {
         m_operations.forbidCancel();
+        m_notice.clear(); // Nothing that was told before lasts longer than the reason.
     }
     m_poll.setAvailable(available);
     update();
@@ -137,7 +142,7 @@ void VantuTrayApp::setExternalBusy(bool busy)
     }
     if (busy) {
         m_operations.begin(TrayBusy::External, {});
-        update();
+        handleOperationBegun();
     } else {
         m_operations.end(TrayBusy::External);
         handleOperationEnded();
@@ -191,10 +196,6 @@ void VantuTrayApp::choose(TrayEntry entry, bool checked, bool asCancel)
 {
     if (entry == TrayEntry::Connect) {
         chooseConnect(asCancel);
-    } else if (entry >= TrayEntry::Slot1 && entry <= TrayEntry::Slot5) {
-        const auto &recent =
-            m_recentNodes.value(static_cast<int>(entry) - static_cast<int>(TrayEntry::Slot1));
-        chooseNode(recent.id, recent.label);
     } else {
         carryOutTrayChoice(*this, m_state.runtime().mode, entry, checked);
     }
@@ -210,11 +211,26 @@ void VantuTrayApp::chooseConnect(bool asCancel)
     }
 }
 
-void VantuTrayApp::chooseNode(const QString &nodeID, const QString &label)
+void VantuTrayApp::chooseNode(const QString &nodeID)
 {
-    if (guardPasses() && !nodeID.isEmpty()) {
-        Q_EMIT connectNodeRequested(nodeID, label);
+    if (guardPasses()) {
+        Q_EMIT connectNodeRequested(nodeID, nodeLabel(nodeID));
     }
+}
+
+QString VantuTrayApp::nodeLabel(const QString &nodeID) const
+{
+    for (const NodeEntry &node : m_state.nodes().nodes) {
+        if (node.id == nodeID) {
+            return NodeMenuModel::labelOrNone(node);
+        }
+    }
+    for (const RecentNode &node : m_recentNodes) {
+        if (node.id == nodeID) {
+            return node.label;
+        }
+    }
+    return {};
 }
 
 void VantuTrayApp::handleNodeMenuOpening()
@@ -265,8 +281,8 @@ void VantuTrayApp::refreshNodes()
 {
     if (m_poll.isAvailable() && !m_poll.isCatalogueInFlight() &&
         m_state.nodesRefreshCooldown() == 0) {
+        m_notice.clear();
         m_poll.requestNodes(true);
-        m_notice = TrayMenuText::refreshingNodes();
         update();
     }
 }
@@ -275,9 +291,8 @@ void VantuTrayApp::beginShellOperation(TrayBusy kind, const ShellOperation &oper
                                        const QString &progressText, bool cancellable)
 {
     m_poll.pause();
-    m_notice.clear();
     m_operations.beginShell(kind, operation, progressText, cancellable);
-    update();
+    handleOperationBegun();
 }
 
 std::optional<ShellOperation> VantuTrayApp::endShellOperation(quint64 requestId)
@@ -289,10 +304,19 @@ std::optional<ShellOperation> VantuTrayApp::endShellOperation(quint64 requestId)
     return operation;
 }
 
+void VantuTrayApp::handleOperationBegun()
+{
+    m_notice.clear();
+    m_unheard.start();
+    update();
+    Q_EMIT operationChanged();
+}
+
 void VantuTrayApp::handleOperationEnded()
 {
     m_poll.pollSoon();
     update();
+    Q_EMIT operationChanged();
 }
 
 void VantuTrayApp::notifyFailure(const QString &errorMessage, const QString &fallback)
@@ -432,17 +456,19 @@ TrayCondition VantuTrayApp::condition() const
 {
     return {
         .daemonAvailable = m_poll.isAvailable(),
-        .wasAvailable = m_poll.wasAvailable(),
+        .judged = m_judged,
         .unavailableReason = m_unavailableReason,
         .statusKnown = m_poll.isStatusKnown(),
         .statusFailed = m_poll.hasStatusFailed(),
         .statusError = plaintext::singleLine(m_poll.statusError()),
         .busy = m_operations.any(),
         .progressText = m_operations.progressText(),
+        .unheard = m_operations.any() && !m_unheard.isActive(),
         .connectBusy = m_operations.has(TrayBusy::Connect),
         .connectCancellable = m_operations.isConnectCancellable(),
         .nodesHeld = m_poll.areNodesHeld(),
         .nodesInFlight = m_poll.isCatalogueInFlight(),
+        .refreshing = m_poll.isRefreshing(),
         .userInFlight = m_link.isPending(ControlRequest::FetchUser),
         .logsInFlight = m_link.isPending(ControlRequest::FetchConfigPaths),
         .notice = m_notice,

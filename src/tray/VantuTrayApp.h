@@ -12,6 +12,7 @@
 #include <QObject>
 #include <QString>
 #include <QSystemTrayIcon>
+#include <QTimer>
 
 #include <optional>
 
@@ -52,12 +53,21 @@ public:
     /// The shell's word on whether the daemon can be used: on becoming available the
     /// status is asked for at once (once started); on loss polling stops, the answers of
     /// reads under way are dropped and `reason` stands in both status lines. A mere
-    /// failed poll is not a loss.
-    void setDaemonAvailable(bool available, const QString &reason);
+    /// failed poll is not a loss. `checking`: it is not known yet.
+    void setDaemonAvailable(bool available, const QString &reason, bool checking = false);
 
     /// Whether an operation may begin: the daemon is available and nothing is busy. The
     /// shell asks before it begins one for the window, too.
     bool guardPasses() const { return m_changes.guardPasses(); }
+
+    /// A status was stored at all, whoever asked for it.
+    bool isStatusKnown() const { return m_poll.isStatusKnown(); }
+    /// Whether any operation runs, the shell's included.
+    bool isBusy() const { return m_operations.any(); }
+    /// What the tray itself has asked for and is not answered yet.
+    const TrayChanges &changes() const { return m_changes; }
+    /// Gives up the tray's own mode change.
+    void cancelModeChange() { m_changes.cancelModeChange(); }
 
     /// Brackets an operation of the shell's own during which the tray must not begin
     /// one. Status answers are ignored while it lasts.
@@ -91,6 +101,8 @@ public:
     void recentNodesChanged();
 
 Q_SIGNALS:
+    /// An operation has begun or ended.
+    void operationChanged();
     /// The desktop's tray has the icon from now on.
     void iconShown();
     void openVantuRequested();
@@ -180,7 +192,9 @@ private:
 
     void choose(TrayEntry entry, bool checked, bool asCancel);
     void chooseConnect(bool asCancel);
-    void chooseNode(const QString &nodeID, const QString &label);
+    void chooseNode(const QString &nodeID);
+    /// As the menu shows it; empty for a node that is neither listed nor remembered.
+    QString nodeLabel(const QString &nodeID) const;
     void handleNodeMenuOpening();
     void handleStatusAnswered(bool succeeded);
 
@@ -190,6 +204,7 @@ private:
     void beginShellOperation(TrayBusy kind, const ShellOperation &operation,
                              const QString &progressText, bool cancellable = false);
     std::optional<ShellOperation> endShellOperation(quint64 requestId);
+    void handleOperationBegun();
     void handleOperationEnded();
     /// A failure in the daemon's own words, or `fallback` where it gave none.
     void notifyFailure(const QString &errorMessage, const QString &fallback);
@@ -202,6 +217,8 @@ private:
     RecentActivityStore m_recents;
     TrayFace m_face;
 
+    QTimer m_unheard; ///< Runs while an operation is so young that its silence means nothing.
+    bool m_judged = false;
     QString m_unavailableReason;
     QString m_notice; ///< The latest notification, until the next status answer.
     QList<RecentNode> m_recentNodes;

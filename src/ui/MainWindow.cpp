@@ -190,12 +190,15 @@ void MainWindow::applyTheme()
 void MainWindow::setAppearancePreference(const QString &appearance)
 {
     const QString before = m_preferences.appearance();
-    m_preferences.setAppearance(appearance);
+    const bool isSaved = m_preferences.setAppearance(appearance);
     const QString now = m_preferences.appearance();
     m_theme.setAppearance(now);
     applyTheme();
     if (now != before) {
         Q_EMIT appearancePreferenceChanged(now);
+    }
+    if (!isSaved) {
+        showSettingsFailure({});
     }
 }
 
@@ -260,39 +263,6 @@ void MainWindow::browseLocations(const QString &query)
     m_locations->setSearchText(query);
 }
 
-bool MainWindow::connectAllowed()
-{
-    if (facts::isSignedIn(m_state.runtime())) {
-        return true;
-    }
-    showPage(static_cast<int>(Page::Account));
-    m_account->showError(QCoreApplication::translate("AccountPage", "Sign in to connect."));
-    m_account->focusSignIn();
-    return false;
-}
-
-void MainWindow::connectNode(const QString &nodeID, const QString &label)
-{
-    if (connectAllowed()) {
-        setPendingTarget({PendingConnectTarget::Kind::Node, nodeID, label, {}});
-        Q_EMIT connectNodeRequested(nodeID, label);
-    }
-}
-
-void MainWindow::connectSmart(const QString &selector, const QString &label)
-{
-    if (connectAllowed()) {
-        setPendingTarget({PendingConnectTarget::Kind::Smart, selector, label, {}});
-        Q_EMIT connectSmartRequested(selector);
-    }
-}
-
-void MainWindow::setPendingTarget(const PendingConnectTarget &target)
-{
-    m_vpn->setPendingConnectTarget(target);
-    Q_EMIT pendingConnectTargetChanged(target.label);
-}
-
 void MainWindow::setDaemonAvailable(bool available, const QString &reason)
 {
     m_vpn->setDaemonAvailable(available, reason);
@@ -320,6 +290,10 @@ void MainWindow::offerPrimaryAction()
 
 void MainWindow::setConnectProgress(const ConnectProgress &progress)
 {
+    if (progress.pending && !m_connectPending) {
+        dismissOutdatedNotice();
+    }
+    m_connectPending = progress.pending;
     m_vpn->setConnectProgress(progress);
 }
 
@@ -350,13 +324,12 @@ void MainWindow::scrollToFocus(QWidget *old, QWidget *now)
 
 void MainWindow::setActivity(const OperationActivity &activity)
 {
-    // A new attempt overtakes what was said of the last one.
-    if (m_noticePasses && activity.hasBegunSince(m_activity)) {
-        m_notices->dismiss();
+    if (activity.hasBegunSince(m_activity)) {
+        dismissOutdatedNotice();
     }
     m_activity = activity;
     m_locations->setRefreshing(activity.refreshingLocations);
-    m_mode->setChangeInFlight(activity.changingMode);
+    m_mode->setChangeInFlight(activity.changingMode, activity.changingLocalNetwork);
     m_mode->setSplitRulesLoading(activity.loadingSplitRules);
     m_settings->setRequestInFlight(activity.changingSettings);
     m_settings->setUpdateCheckInFlight(activity.checkingUpdate);
@@ -405,6 +378,14 @@ void MainWindow::refreshFromState()
     m_sidebar->setModeLine(TrayMenuText::modeLine(labels::mode(m_state.runtime().mode)));
 }
 
+/// A new attempt overtakes what was said of the last one.
+void MainWindow::dismissOutdatedNotice()
+{
+    if (m_noticePasses) {
+        m_notices->dismiss();
+    }
+}
+
 void MainWindow::showNotice(const QString &message, NoticeKind kind, int timeoutMs)
 {
     m_noticePasses = timeoutMs > 0;
@@ -447,7 +428,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     }
     event->ignore();
     m_mode->whenSafeToLeave([this] {
-        if (m_hideToTray) {
+        if (m_hideToTray && m_trayProbe()) {
             leaveScreen();
             hide();
         } else {

@@ -11,6 +11,9 @@
 #include <QMainWindow>
 #include <QUrl>
 
+#include <functional>
+#include <utility>
+
 class AccountPage;
 class AppState;
 class ElidedLabel;
@@ -47,6 +50,8 @@ public:
     /// Off: closing the window asks to leave the program, because without a tray
     /// nothing would be left to bring it back.
     void setHideToTray(bool hide) { m_hideToTray = hide; }
+    /// Asked at each close with hiding on: whether a tray is still there.
+    void setTrayProbe(std::function<bool()> probe) { m_trayProbe = std::move(probe); }
     /// On: the program is leaving, and a close really closes.
     void setExitAllowed(bool allowed) { m_exitAllowed = allowed; }
 
@@ -147,8 +152,7 @@ private:
     void connectAccountPage();
     void applyTheme();
     bool connectAllowed();
-    void connectNode(const QString &nodeID, const QString &label);
-    void connectSmart(const QString &selector, const QString &label);
+    void connectTo(const PendingConnectTarget &target);
     void setPendingTarget(const PendingConnectTarget &target);
     void focusSearch();
     void browseLocations(const QString &query);
@@ -158,6 +162,7 @@ private:
     void scrollToFocus(QWidget *old, QWidget *now);
     void switchPage(Page page);
     void leaveScreen();
+    void dismissOutdatedNotice();
     void openVendorPage(const QString &path);
     void setLaunchAtLogin(bool launch);
     void setShowOnLaunch(bool show);
@@ -168,10 +173,12 @@ private:
     Theme &m_theme;
     RecentActivityStore m_recent;
     bool m_hideToTray = true;
+    std::function<bool()> m_trayProbe = [] { return true; };
     bool m_exitAllowed = false;
     bool m_showingPlaces = false;
     bool m_settingsVisible = false;
     bool m_noticePasses = false; ///< The last notice goes by itself after a while.
+    bool m_connectPending = false;
     OperationActivity m_activity;
     /// The window was shown and the keyboard is to go to the main button, once it can.
     bool m_offerPrimary = false;

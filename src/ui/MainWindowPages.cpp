@@ -2,21 +2,25 @@
 // signals, and what concerns the window or the preferences alone is done here.
 
 #include "AccountPage.h"
+#include "AppState.h"
 #include "ControlProtocol.h"
 #include "GuiAutostart.h"
 #include "GuiPreferences.h"
 #include "LocationsPage.h"
 #include "MainWindow.h"
 #include "ModePage.h"
+#include "RuntimeFacts.h"
 #include "SettingsPage.h"
 #include "VendorHost.h"
 #include "VpnPage.h"
+
+#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kSettingsFailureMs = 5000;
+constexpr int kPreferencesFailureMs = 5000;
 
 } // namespace
 
@@ -31,12 +35,22 @@ void MainWindow::connectVpnPage()
     connect(m_vpn, &VpnPage::cancelConnectRequested, this, &MainWindow::cancelConnectRequested);
     connect(m_vpn, &VpnPage::disconnectRuntimeRequested, this,
             &MainWindow::disconnectRuntimeRequested);
-    connect(m_vpn, &VpnPage::connectNodeRequested, this, &MainWindow::connectNode);
-    connect(m_vpn, &VpnPage::connectSmartRequested, this, &MainWindow::connectSmart);
+    using Kind = PendingConnectTarget::Kind;
+    connect(m_vpn, &VpnPage::connectNodeRequested, this,
+            [this](const QString &nodeID, const QString &label, const QString &flagCode) {
+                connectTo({Kind::Node, nodeID, label, flagCode});
+            });
+    connect(m_vpn, &VpnPage::connectSmartRequested, this,
+            [this](const QString &selector, const QString &label, const QString &flagCode) {
+                connectTo({Kind::Smart, selector, label, flagCode});
+            });
     connect(m_vpn, &VpnPage::setNodeFavoriteRequested, this, &MainWindow::setNodeFavoriteRequested);
     connect(m_vpn, &VpnPage::pageRequested, this, &MainWindow::showPage);
     connect(m_vpn, &VpnPage::browseLocationsRequested, this, &MainWindow::browseLocations);
     connect(m_vpn, &VpnPage::recentConnectionsCleared, this, &MainWindow::recentConnectionsCleared);
+    connect(m_vpn, &VpnPage::recentsNotCleared, this, [this] {
+        showNotice(tr("Could not clear history"), NoticeKind::Error, kPreferencesFailureMs);
+    });
     connect(m_vpn, &VpnPage::quickEntryVisibleChanged, this, &MainWindow::publishShowingPlaces);
 }
 
@@ -44,10 +58,50 @@ void MainWindow::connectLocationsPage()
 {
     connect(m_locations, &LocationsPage::refreshRequested, this,
             &MainWindow::refreshLocationsRequested);
-    connect(m_locations, &LocationsPage::connectNodeRequested, this, &MainWindow::connectNode);
-    connect(m_locations, &LocationsPage::connectSmartRequested, this, &MainWindow::connectSmart);
+    using Kind = PendingConnectTarget::Kind;
+    connect(m_locations, &LocationsPage::connectNodeRequested, this,
+            [this](const QString &nodeID, const QString &label) {
+                connectTo({Kind::Node, nodeID, label, {}});
+            });
+    connect(m_locations, &LocationsPage::connectSmartRequested, this,
+            [this](const QString &selector, const QString &label) {
+                connectTo({Kind::Smart, selector, label, {}});
+            });
     connect(m_locations, &LocationsPage::favoriteNodeRequested, this,
             &MainWindow::setNodeFavoriteRequested);
+}
+
+bool MainWindow::connectAllowed()
+{
+    if (facts::isSignedIn(m_state.runtime())) {
+        return true;
+    }
+    showPage(static_cast<int>(Page::Account));
+    m_account->showError(QCoreApplication::translate("AccountPage", "Sign in to connect."));
+    m_account->focusSignIn();
+    return false;
+}
+
+void MainWindow::connectTo(const PendingConnectTarget &target)
+{
+    if (!connectAllowed()) {
+        return;
+    }
+    setPendingTarget(target);
+    if (target.kind == PendingConnectTarget::Kind::Node) {
+        Q_EMIT connectNodeRequested(target.id, target.label);
+    } else {
+        Q_EMIT connectSmartRequested(target.id);
+    }
+    // Whoever takes the request up has said so by now; a refused place is not named.
+    setPendingTarget({});
+}
+
+void MainWindow::setPendingTarget(const PendingConnectTarget &target)
+{
+    if (m_vpn->setPendingConnectTarget(target)) {
+        Q_EMIT pendingConnectTargetChanged(target.label);
+    }
 }
 
 void MainWindow::connectModePage()
@@ -140,5 +194,5 @@ void MainWindow::showSettingsFailure(const QString &message)
                              ? tr("The setting holds until Vantu quits; it could not be saved.")
                              : message;
     showPageError(Page::Settings, text);
-    showNotice(text, NoticeKind::Error, kSettingsFailureMs);
+    showNotice(text, NoticeKind::Error, kPreferencesFailureMs);
 }

@@ -3,7 +3,8 @@
 /// What the client is doing for the user at the moment, as far as the pages show it.
 struct OperationActivity
 {
-    bool changingMode = false;     ///< The mode or the local network.
+    bool changingMode = false;
+    bool changingLocalNetwork = false;
     bool changingSettings = false; ///< Anything of the settings page.
     bool checkingUpdate = false;   ///< The user's own look for a newer client.
     bool signingInOrOut = false;
@@ -15,6 +16,7 @@ struct OperationActivity
     bool hasBegunSince(const OperationActivity &before) const
     {
         return (changingMode && !before.changingMode) ||
+               (changingLocalNetwork && !before.changingLocalNetwork) ||
                (changingSettings && !before.changingSettings) ||
                (checkingUpdate && !before.checkingUpdate) ||
                (signingInOrOut && !before.signingInOrOut) ||

@@ -66,6 +66,7 @@ void WindowController::ensureWindow()
     m_window = new MainWindow(m_state, m_preferences, m_theme.get()); // Owned: no parent.
     ++m_windowsCreated;
     m_window->setHideToTray(m_hideToTray);
+    m_window->setTrayProbe(m_trayProbe);
     setExitAllowed(m_exitAllowed);
     m_window->setDaemonAvailable(m_daemonAvailable, m_unavailableReason);
     m_window->setConnectProgress(m_progress);
@@ -402,18 +403,24 @@ void WindowController::setUpdateWaiting(bool waiting)
 
 void WindowController::openDownloadPage()
 {
+    if (!m_updateDialog) {
+        return;
+    }
+    using enum UpdateDialog::Tone;
     const QUrl link = updatelink::downloadLink(m_update);
     if (!link.isValid()) {
-        setUpdateNote(
-            QCoreApplication::translate("UpdateDialog", "The download link is unavailable."), true);
+        m_updateDialog->setRemark(
+            QCoreApplication::translate("UpdateDialog", "The download link is unavailable."),
+            Error);
     } else if (!m_linkOpener(link)) {
-        setUpdateNote(
+        m_updateDialog->setRemark(
             QCoreApplication::translate("UpdateDialog", "Could not open the update download link."),
-            true);
+            Error);
     } else {
-        setUpdateNote(QCoreApplication::translate(
-                          "UpdateDialog", "The download link opened in your browser. Vantu will "
-                                          "not run the installer automatically."),
-                      false);
+        m_updateDialog->setRemark(
+            QCoreApplication::translate("UpdateDialog",
+                                        "The download link opened in your browser. Vantu will "
+                                        "not run the installer automatically."),
+            Muted);
     }
 }

@@ -35,6 +35,8 @@ public:
     using LinkOpener = std::function<bool(const QUrl &url)>;
     /// Opens a local file with the desktop; returns whether that worked.
     using FileLauncher = std::function<bool(const QString &path)>;
+    /// Returns whether the desktop has a tray now.
+    using TrayProbe = std::function<bool()>;
 
     /// How long an ordinary notice stays.
     static constexpr int kNoticeTimeoutMs = 5000;
@@ -44,6 +46,8 @@ public:
     ~WindowController() override;
 
     void setHideToTray(bool hide);
+    /// See MainWindow. Call before there is a window.
+    void setTrayProbe(TrayProbe probe) { m_trayProbe = std::move(probe); }
     void setExitAllowed(bool allowed);
     void setLinkOpener(LinkOpener opener) { m_linkOpener = std::move(opener); }
     void setFileLauncher(FileLauncher launcher) { m_fileLauncher = std::move(launcher); }
@@ -163,6 +167,7 @@ private:
     QPointer<MainWindow> m_window;
     QPointer<UpdateDialog> m_updateDialog; ///< Owned; has no parent, to live without a window.
     bool m_hideToTray = true;
+    TrayProbe m_trayProbe = [] { return true; };
     bool m_exitAllowed = false;
     bool m_daemonAvailable = false;
     QString m_unavailableReason;

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void refusedVersion();
     void absentDaemon_data();
     void absentDaemon();
+    void connectedFromTheStart();
     void badDaemon_data();
     void badDaemon();
     void replacedDaemonIsAskedAnew();
@@ -109,6 +110,16 @@ void TestShell::absentDaemon()
     QTRY_COMPARE(fixture.notice(), kNotRunning);
 }
 
+/// The window comes before the daemon's first word; Return must not end what that tells.
+void TestShell::connectedFromTheStart()
+{
+    ShellFixture fixture;
+    fixture.answer(kStatus, status("connected"));
+    QVERIFY(fixture.start());
+    QCOMPARE(fixture.button()->text(), u"Disconnect"_s);
+    QVERIFY(!fixture.button()->hasFocus());
+}
+
 void TestShell::badDaemon_data()
 {
     QTest::addColumn<QByteArray>("bytes");
@@ -125,10 +136,10 @@ void TestShell::badDaemon()
     ScriptedDaemon bad;
     bad.setDefault({}, bytes.isEmpty() ? Reply::nothing().hold() : Reply::raw(bytes));
     fixture.leadTo(bad.socketName());
-    fixture.shell().connectRuntime();
     fixture.shell().tray().refreshStatus();
-    QTRY_VERIFY(bad.routes().contains(kConnect));
     QTRY_COMPARE(fixture.text(u"VantuStatusTitle"_s), u"Daemon unavailable"_s);
+    fixture.shell().connectRuntime();
+    QTRY_VERIFY(bad.routes().contains(kConnect));
 
     bad.stop();
     fixture.leadTo(fixture.daemon.socketName());
@@ -311,6 +322,9 @@ void TestShell::closingHides()
     QVERIFY(window->isVisible());
     QCOMPARE(fixture.window(), window);
     QCOMPARE(exits.count(), 0);
+    fixture.host.stop(); // Nothing would bring it back any more.
+    window->close();
+    QTRY_COMPARE(exits.count(), 1);
 }
 
 QTEST_MAIN(TestShell)

@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QThread>
 
+#include <functional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void cancelOwnConnect();
     void cancelCrossedByAnswer();
     void cancelOfDaemonsConnect();
+    void cancelBehindModeChange();
     void failureIsToldWhereAsked_data();
     void failureIsToldWhereAsked();
     void blankFailures_data();
@@ -135,6 +137,29 @@ void TestShellOperations::cancelOfDaemonsConnect()
     QVERIFY(fixture.poll());
     QCOMPARE(fixture.count(kDisconnect), 1);
     QCOMPARE(fixture.button()->text(), u"Cancel"_s); // The daemon goes on, as before.
+}
+
+/// The daemon answers a mode change when the tunnel stands again, which may be never.
+void TestShellOperations::cancelBehindModeChange()
+{
+    const auto inWindow = [](Shell &shell) { shell.setModePreference(moderequest::autoMode()); };
+    const auto inTray = [](Shell &shell) { shell.tray().setMode(moderequest::autoMode(), {}); };
+    for (const std::function<void(Shell &)> &change :
+         {std::function(inWindow), std::function(inTray)}) {
+        ShellFixture fixture;
+        QVERIFY(fixture.start());
+        QVERIFY(fixture.poll(status("retrying")));
+        fixture.answerHeld("POST /v1/mode");
+        change(fixture.shell());
+        QTRY_COMPARE(fixture.count("POST /v1/mode"), 1);
+        fixture.shell().disconnectRuntime();
+        QCOMPARE(fixture.notice(), u"Please wait for the current operation to finish"_s);
+        QCOMPARE(fixture.button()->text(), u"Cancel"_s);
+        fixture.button()->click();
+        QTRY_COMPARE(fixture.count(kDisconnect), 1);
+        QTRY_VERIFY(fixture.isIdle());
+        QVERIFY(!fixture.notice().contains(u"cancel"_s));
+    }
 }
 
 void TestShellOperations::failureIsToldWhereAsked_data()

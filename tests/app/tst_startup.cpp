@@ -103,6 +103,7 @@ private Q_SLOTS:
     void secondLaunchLendsItsToken();
     void loginStartWithoutTray();
     void loginStartWaitsForTray();
+    void loginStartWithWindow();
     void loginEntryStartsIt();
     void trayComesLateAndDies();
     void signalsQuit_data();
@@ -207,6 +208,13 @@ void TestStartup::loginStartWaitsForTray()
     QTRY_VERIFY(m_host->menu().find(u"Quit"_s));
     QVERIFY(m_host->click(u"Quit"_s));
     QTRY_VERIFY(login->ended(0));
+}
+
+void TestStartup::loginStartWithWindow()
+{
+    const auto login = client("launchAtLogin=true\n");
+    login->start({kAutostart});
+    QTRY_VERIFY(screen() != m_blank); // Without waiting for a panel.
 }
 
 void TestStartup::loginEntryStartsIt()

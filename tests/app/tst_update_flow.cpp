@@ -149,46 +149,49 @@ void TestUpdateFlow::rules_data()
         QTest::newRow(events) << effects;
     };
     row("start POST:checking poll GET:loading GET:verifying GET:ready opened",
-        u"POST/=checking soon/GET/=loading soon/=verifying soon/=ready open/exit"_s);
-    row("start POST:ready cancel unopened start", u"POST/=ready open//=idle not-opened/POST"_s);
-    row("start POST:ready@0", u"POST/=idle not-opened"_s);
-    row("blind early start checked", u"update-unknown/finishing-check//POST"_s);
+        u"POST =idle/=checking soon/GET/=loading soon/=verifying soon/=ready open/exit"_s);
+    row("start POST:ready cancel unopened start",
+        u"POST =idle/=ready open//=idle not-opened/POST =idle"_s);
+    row("start POST:ready@0", u"POST =idle/=idle not-opened"_s);
+    row("blind early start checked", u"update-unknown/finishing-check//POST =idle"_s);
     row("early blank checked", u"finishing-check/update-unknown/"_s);
     row("early GET:loading@12 cancel checked", u"finishing-check//=idle/"_s);
-    row("start POST:error", u"POST/=idle not-started"_s);
-    row("start POST:idle@0", u"POST/=idle not-started"_s);
+    row("start POST:error", u"POST =idle/=idle not-started"_s);
+    row("start POST:idle@0", u"POST =idle/=idle not-started"_s);
     row("start POST:timeout poll GET:error GET:loading",
-        u"POST/slow unsure/GET/slow unsure/=loading soon"_s);
+        u"POST =idle/slow unsure/GET/slow unsure/=loading soon"_s);
     row("start POST:timeout GET:canceled GET:idle GET:idle GET:idle GET:idle start",
-        u"POST/slow unsure/slow unsure/slow unsure/slow unsure/slow unsure/=idle not-started/POST"_s);
+        u"POST =idle/slow unsure/slow unsure/slow unsure/slow unsure/slow unsure/=idle not-started/POST =idle"_s);
     row("start POST:loading GET:error GET:canceling GET:canceled poll GET:failed",
-        u"POST/=loading soon/slow unread/=canceling slow/=canceled/GET/"_s);
+        u"POST =idle/=loading soon/slow unread/=canceling slow/=canceled/GET/"_s);
     row("start start POST:loading start GET:failed GET:failed start POST:failed",
-        u"POST//=loading soon//=failed raise//POST/=failed raise"_s);
-    row("start POST:loading GET:idle@0", u"POST/=loading soon/=failed raise"_s);
+        u"POST =idle//=loading soon//=failed raise//POST =idle/=failed raise"_s);
+    row("start POST:loading GET:idle@0", u"POST =idle/=loading soon/=failed raise"_s);
     // Cancelled; the daemon may be deaf to it, or quicker.
     row("start POST:loading cancel cancel DELETE:canceling poll GET:canceled cancel",
-        u"POST/=loading soon/DELETE =canceling//=canceling slow/GET/=canceled/"_s);
+        u"POST =idle/=loading soon/DELETE =canceling//=canceling slow/GET/=canceled/"_s);
     row("start cancel DELETE:error GET:loading DELETE:loading GET:loading DELETE:idle",
-        u"POST/DELETE =canceling/slow uncancelled/DELETE =canceling/=canceling slow/"
+        u"POST =idle/DELETE =canceling/slow uncancelled/DELETE =canceling/=canceling slow/"
         "DELETE =canceling/=canceled"_s);
     row("start POST:timeout cancel DELETE:ready opened",
-        u"POST/slow unsure/DELETE =canceling/=idle completed/"_s);
+        u"POST =idle/slow unsure/DELETE =canceling/=idle completed/"_s);
     // Of another release.
     row("start POST:loading@12 DELETE:error GET:loading@12 DELETE:loading@12 GET:error "
         "GET:canceled@12 start",
-        u"POST/DELETE =canceling!/slow uncancelled/DELETE =canceling!/=canceling! slow/"
-        "slow unread/=failed! raise/POST"_s);
-    row("start POST:canceling@12 cancel GET:idle@0", u"POST/=canceling! slow//=failed! raise"_s);
-    row("start POST:ready@12", u"POST/=failed! raise"_s);
+        u"POST =idle/DELETE =canceling!/slow uncancelled/DELETE =canceling!/=canceling! slow/"
+        "slow unread/=failed! raise/POST =idle"_s);
+    row("start POST:canceling@12 cancel GET:idle@0",
+        u"POST =idle/=canceling! slow//=failed! raise"_s);
+    row("start POST:ready@12", u"POST =idle/=failed! raise"_s);
     row("start POST:loading cancel DELETE:ready@12",
-        u"POST/=loading soon/DELETE =canceling/=failed! raise"_s);
+        u"POST =idle/=loading soon/DELETE =canceling/=failed! raise"_s);
     // Started by an earlier run.
     row("poll GET:loading start GET:ready start POST:ready",
-        u"GET/=loading soon//=idle downloaded/POST/=ready open"_s);
+        u"GET/=loading soon//=idle downloaded/POST =idle/=ready open"_s);
     row("poll GET:ready GET:failed GET:ready@12 GET:idle@0 GET:error", u"GET/////"_s);
     row("poll GET:loading@12", u"GET/DELETE =canceling!"_s);
-    row("poll GET:unreadable start POST:unreadable", u"GET/=unknown/POST/=idle not-started"_s);
+    row("poll GET:unreadable start POST:unreadable",
+        u"GET/=unknown/POST =idle/=idle not-started"_s);
 }
 
 void TestUpdateFlow::rules()

@@ -8,12 +8,15 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTest>
@@ -96,6 +99,40 @@ private Q_SLOTS:
         QTRY_COMPARE(p.desk.text(u"VantuStatusTitle"_s), u"Daemon unavailable"_s);
         QCOMPARE(p.desk.button()->text(), u"Connect"_s);
         QVERIFY(!p.press(u"VantuVPNPrimaryAction"_s));
+    }
+
+    /// Only a place that is connected to is named.
+    void refusedPlace()
+    {
+        Person p;
+        QVERIFY(p.start());
+        const auto smart = p.desk.text(u"VantuVPNLocationValue"_s);
+        const auto namedAfter = [&p](bool asked) {
+            Person::ctrl(Qt::Key_1);
+            return asked ? p.desk.text(u"VantuVPNLocationValue"_s) : u"?"_s;
+        };
+        p.desk.answerHeld(kConnect);
+        p.desk.shell().windows().showNotice(u"Old"_s, MainWindow::NoticeKind::Info);
+        QVERIFY(p.press(u"VantuVPNPrimaryAction"_s));
+        QVERIFY(p.desk.notice().isEmpty());
+        QCOMPARE(namedAfter(p.searchAll() && p.press(u"VantuLocationsConnect"_s)), smart);
+        QTRY_COMPARE(p.desk.count(kConnect), 1);
+        p.desk.daemon.release();
+        QTRY_VERIFY(p.desk.isIdle());
+
+        p.desk.answerHeld("POST /v1/mode");
+        p.desk.shell().setModePreference({});
+        QVERIFY(p.searchAll() && p.press(u"VantuLocationsConnect"_s));
+        QTRY_COMPARE(p.desk.count("POST /v1/mode"), 1);
+        p.desk.daemon.release();
+        QTRY_VERIFY(p.desk.isIdle());
+        p.desk.shell().connectRuntimeFromTray();
+        QCOMPARE(namedAfter(!p.desk.isIdle()), smart);
+        QTRY_COMPARE(p.desk.count(kConnect), 2);
+        p.desk.daemon.release();
+        QTRY_VERIFY(p.desk.isIdle());
+        QCOMPARE(namedAfter(p.searchAll() && p.press(u"VantuLocationsConnect"_s)), u"Tokyo 1"_s);
+        p.desk.daemon.release();
     }
 
     void quickEntry()
@@ -225,6 +262,13 @@ private Q_SLOTS:
                      wish == "dark"_L1 || wish == "light"_L1 ? wish : u"system"_s);
         }
         QCOMPARE(changed.count(), 3);
+        QVERIFY(p.desk.notice().isEmpty());
+        const QString file =
+            QSettings(QSettings::IniFormat, QSettings::UserScope, u"VantuVPN"_s, u"Vantu"_s)
+                .fileName();
+        QVERIFY(QFile::remove(file) && QDir().mkpath(file)); // Nothing can be saved there.
+        p.desk.window()->setAppearancePreference(u"dark"_s);
+        QVERIFY(p.desk.notice().startsWith("The setting holds until Vantu quits"_L1));
     }
 
     void everythingHasName()

@@ -194,8 +194,11 @@ void TestLocations::searchScopesAndEnds()
     f.search.setText(u"berlin"_s);
     QCOMPARE(f.empty.text(), u"No matches in Asia."_s);
     QVERIFY(!f.listIsShown() && !f.connectButton.isEnabled());
+    QVERIFY(QTest::qWaitForWindowActive(&f.page));
+    f.showAll.setFocus();
     f.showAll.click();
     QVERIFY(f.listIsShown() && f.tabs.property("vantuSearchGlobal").toBool());
+    QVERIFY(f.tree.hasFocus()); // what Down is meant for
     f.search.setText(u"nowhere"_s);
     QCOMPARE(f.empty.text(), u"No matching locations."_s);
     QVERIFY(f.tabs.isTabEnabled(2));
@@ -288,6 +291,14 @@ void TestLocations::stateSurvivesRefresh()
     QCoreApplication::processEvents();
     QCOMPARE(f.tree.rootIndex().data().toString(), u"Asia"_s);
     QVERIFY(f.row(u"Osaka 0"_s).isValid() && f.showAll.isVisible());
+
+    // Connect goes on to a match when the chosen one has gone.
+    f.tree.choose(f.row(u"Osaka 20"_s));
+    groups.tabs[1].groups[1].nodeIds.removeOne(u"n20"_s);
+    f.state.setNodeGroups(groups);
+    QCoreApplication::processEvents();
+    f.connectButton.click();
+    QCOMPARE(f.nodeSpy.value(0).value(0), u"n0"_s);
 }
 
 void TestLocations::keyboard()
@@ -366,6 +377,12 @@ void TestLocations::daemonAway()
     QVERIFY(f.nodeSpy.isEmpty() && f.favoriteSpy.isEmpty() && isFavorite(f.row(u"Berlin 1"_s)));
     f.page.setDaemonAvailable(true, {});
     QVERIFY(f.connectButton.isEnabled() && f.refresh.isEnabled() && !f.message.isVisible());
+
+    f.refresh.setFocus();
+    f.page.setRefreshing(true);
+    QVERIFY(f.page.focusWidget() && f.page.focusWidget() != &f.connectButton);
+    f.page.setRefreshing(false);
+    QCOMPARE(f.page.focusWidget(), &f.refresh);
 }
 
 class PaintCounter final : public QObject

@@ -13,6 +13,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollArea>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
@@ -219,7 +220,7 @@ void ModePageTest::blocking()
     Fixture f;
     f.show(situation.at(0) == "unknown"_L1 ? ModeInfo{} : modeOf(situation.at(0), u"split"_s));
     f.killSwitch(situation.at(1));
-    f.page->setChangeInFlight(situation.contains(u"busy"_s));
+    f.page->setChangeInFlight(situation.contains(u"busy"_s), false);
     f.page->setDaemonAvailable(!situation.contains(u"away"_s), u"Gone"_s);
     QStringList disabled;
     for (auto *button : f.page->findChildren<QAbstractButton *>()) {
@@ -354,7 +355,9 @@ void ModePageTest::fetchesRulesWhenNeeded()
     f.show(splitOf(u"vantuvpn"_s, u"direct"_s));
     QCOMPARE(f.fetches.size(), 1);
     f.page->setDaemonAvailable(false, {});
+    f.page->showOperationError(u"broken"_s);
     f.page->setDaemonAvailable(true, {}); // Perhaps another one.
+    QVERIFY(f.text(u"Status"_s).isEmpty());
     f.reopen();
     QCOMPARE(f.fetches.size(), 3);
     f.page->setSplitRulesLoading(true);
@@ -371,8 +374,10 @@ void ModePageTest::feedsTheEditor()
     f.show(splitOf(u"vantuvpn"_s, u"tunnel"_s));
     auto &count = f.find<QLabel>(u"VantuCustomRulesSummary"_s);
     QCOMPARE(count.text(), u"Rules unavailable"_s);
+    f.page->showOperationError(u"broken"_s);
     f.click(u"VantuCustomRulesEdit"_s);
     QCOMPARE(f.fetches.size(), 2);
+    QVERIFY(f.text(u"Status"_s).isEmpty());
     auto *text = openDialog<SplitRulesEditorDialog>()->findChild<QPlainTextEdit *>();
     f.page->showSplitRulesError(u" broken "_s);
     QCOMPARE(count.toolTip(), u"broken"_s);
@@ -398,9 +403,9 @@ void ModePageTest::keyboard()
     QCOMPARE(f.modes.size(), 0);
     QVERIFY(f.focusedAfter(Qt::Key_Space, u"VantuVPN"_s));
     QCOMPARE(f.requested(), u"vantuvpn/global"_s);
-    f.page->setChangeInFlight(true);
-    QVERIFY(!f.window.focusWidget());
-    f.page->setChangeInFlight(false);
+    f.page->setChangeInFlight(false, true);
+    QVERIFY(qobject_cast<QScrollArea *>(f.window.focusWidget()));
+    f.page->setChangeInFlight(false, false);
     QVERIFY(f.focusedAfter(Qt::Key_Up, u"WireGuard"_s));
 }
 

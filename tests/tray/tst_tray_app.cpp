@@ -59,6 +59,7 @@ private Q_SLOTS:
     void failedPoll();
     void iconNeverClaimsMore_data();
     void iconNeverClaimsMore();
+    void iconDuringLongChange();
     void panelThatNeverTellsTheMenuClosed();
     void logDirectory();
 
@@ -339,6 +340,10 @@ void TestTrayApp::recentNodesAndCoolDown()
     QCOMPARE(labels.mid(3, 6), (QStringList{u"US - Reno Nevada - p2p"_s,
                                             u"JP - Tokyo & <b>Co</b>"_s, u"[gone] unavailable"_s,
                                             u"[x] unavailable"_s, u"[y] unavailable"_s, u"-"_s}));
+    const QSignalSpy node(&desk.tray, &VantuTrayApp::connectNodeRequested);
+    QVERIFY(m_host.click(u"JP - Tokyo & <b>Co</b>"_s));
+    QTRY_COMPARE(node.size(), 1);
+    QCOMPARE(node.constFirst(), (QVariantList{u"a"_s, u"JP - Tokyo & <b>Co</b>"_s}));
     QVERIFY(desk.preferences.clearRecentNodes());
     desk.tray.recentNodesChanged();
     QCOMPARE(entry(u"Node / Location"_s).labels(),
@@ -348,6 +353,7 @@ void TestTrayApp::recentNodesAndCoolDown()
     desk.daemon.setDefault("POST /v1/nodes/refresh", Reply::json(kNodes));
     QVERIFY(m_host.click(u"Refresh Nodes"_s));
     QTRY_COMPARE(desk.state.nodesRefreshCooldown(), 60);
+    QTRY_VERIFY(detail() != u"Refreshing nodes..."_s);
     QVERIFY(!entry(u"Refresh Nodes (60s)"_s).label.isEmpty());
 }
 
@@ -410,6 +416,21 @@ void TestTrayApp::iconNeverClaimsMore()
     QCOMPARE(m_host.icon(), off);
     QVERIFY(!m_host.toolTip().contains(u"connected"_s) ||
             m_host.toolTip() == u"Vantu: disconnected"_s);
+}
+
+/// The daemon isn't asked while an operation runs, which may be for ever.
+void TestTrayApp::iconDuringLongChange()
+{
+    Desk desk;
+    QVERIFY(desk.start());
+    const QImage off = m_host.icon();
+    QVERIFY(desk.poll(status("connected")));
+    QTRY_VERIFY(m_host.icon() != off);
+    desk.tray.setExternalBusy(true);
+    QTRY_COMPARE(m_host.icon(), off);
+    QVERIFY(!detail().contains(u"Location"_s));
+    desk.tray.setExternalBusy(false);
+    QTRY_VERIFY(m_host.icon() != off);
 }
 
 void TestTrayApp::panelThatNeverTellsTheMenuClosed()

@@ -60,7 +60,7 @@ TrayCondition idleCondition()
 {
     TrayCondition condition;
     condition.daemonAvailable = true;
-    condition.wasAvailable = true;
+    condition.judged = true;
     condition.statusKnown = true;
     condition.nodesHeld = true;
     condition.now = QDateTime::fromString(u"2026-01-01T12:00:00Z"_s, Qt::ISODate);

@@ -95,7 +95,7 @@ void TestTrayNodes::nodeMenu()
     QCOMPARE(outline(*holder->menu()), u"One [selected]|Two"_s);
     QSignalSpy chosen(&nodeMenu, &TrayNodeMenu::nodeChosen);
     holder->menu()->actions().at(1)->trigger();
-    QCOMPARE(chosen.constFirst(), (QVariantList{u"b"_s, u"Two"_s}));
+    QCOMPARE(chosen.constFirst(), QVariantList{u"b"_s});
     QVERIFY(!holder->menu()->actions().at(1)->isChecked());
 
     nodeMenu.release();

@@ -175,6 +175,11 @@ void TestUpdateDialog::notesAndWaiting()
     QCOMPARE(status(), u"error:Could not <open> it."_s);
     m_dialog->setDownload(download(State::Verifying));
     QCOMPARE(status(), u"muted:Verifying the download..."_s);
+    m_dialog->setRemark(u"Opened."_s, UpdateDialog::Tone::Muted);
+    m_dialog->setDownload(download(State::Verifying)); // Comes twice a second.
+    QCOMPARE(status(), u"muted:Opened."_s);
+    m_dialog->setDownload(download(State::Ready));
+    QVERIFY(status() != u"muted:Opened."_s);
 }
 
 void TestUpdateDialog::gate()

@@ -4,6 +4,8 @@
 #include "QuickEntryContent.h"
 #include "QuickEntryRow.h"
 
+#include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -184,7 +186,7 @@ void QuickEntryTest::keysOfTheField()
 
     QTest::keyClicks(field, u"tokyo"_s);
     QTest::keyClick(field, Qt::Key_Return);
-    QCOMPARE(connects, (QList<QVariantList>{{u"1"_s, u"JP - Tokyo 1 [stream]"_s}}));
+    QCOMPARE(connects, (QList<QVariantList>{{u"1"_s, u"JP - Tokyo 1 [stream]"_s, u"jp"_s}}));
     QVERIFY(!test.page->isQuickEntryOpen());
     QCOMPARE(test.recents.searches(), QStringList{u"tokyo"_s});
 
@@ -192,7 +194,7 @@ void QuickEntryTest::keysOfTheField()
     QTest::keyClick(field, Qt::Key_Down);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    QCOMPARE(smart, (QList<QVariantList>{{u"NO"_s, u"Europe - Norway"_s}}));
+    QCOMPARE(smart, (QList<QVariantList>{{u"NO"_s, u"Europe - Norway"_s, u"no"_s}}));
 
     QTest::keyClicks(field, u"nowhere"_s);
     QVERIFY(test.find<QLabel>("VantuVPNQuickEntryEmpty")->isVisible());
@@ -211,7 +213,18 @@ void QuickEntryTest::history()
     test.recents.addNode({u"2"_s, u"Osaka"_s, u"jp"_s});
     test.state.setNodes(nodes());
     QSignalSpy cleared(test.page, &VpnPage::recentConnectionsCleared);
+    QSignalSpy notCleared(test.page, &VpnPage::recentsNotCleared);
     test.page->focusSearch();
+    const QString folder = test.settings.dir.path();
+    QVERIFY(QDir().rename(folder, folder + u".away"_s) && QFile(folder).open(QFile::WriteOnly));
+    for (const char *clear :
+         {"VantuVPNQuickEntryClearConnections", "VantuVPNQuickEntryClearSearches"}) {
+        test.find<QPushButton>(clear)->click(); // Nothing can be written.
+        QVERIFY(test.find<QuickEntryRow>("VantuVPNQuickEntryItem")->isVisible());
+        QVERIFY(test.find<QPushButton>("VantuVPNQuickEntryPill")->isVisible());
+    }
+    QVERIFY(notCleared.size() == 2 && cleared.isEmpty());
+    QVERIFY(QFile::remove(folder) && QDir().rename(folder + u".away"_s, folder));
     auto *pill = test.find<QPushButton>("VantuVPNQuickEntryPill");
     test.find<QPushButton>("VantuVPNQuickEntryClearConnections")->click();
     QCOMPARE(cleared.size(), 1);
@@ -265,9 +278,22 @@ void QuickEntryTest::moreTags()
     QCOMPARE(shown(), 30);
     auto *more = test.find<QPushButton>("VantuVPNQuickEntryPillMore");
     QCOMPARE(more->text(), u"+12"_s);
-    more->click();
+    QVERIFY(QTest::qWaitForWindowActive(&test.window));
+    more->setFocus();
+    QTest::keyClick(more, Qt::Key_Return);
     QCOMPARE(shown(), 42);
-    QVERIFY(!more->isVisible());
+    QVERIFY(!more->isVisible() && test.page->isQuickEntryOpen());
+    const auto pills = test.window.findChildren<QPushButton *>(u"VantuVPNQuickEntryPill"_s);
+    QCOMPARE(QApplication::focusWidget(), pills.at(30)); // The first of the new ones.
+
+    // A row that goes hands the keyboard to the field, not to what Tab would come to.
+    auto *field = test.find<QLineEdit>("VantuVPNSearch");
+    field->setText(u"osaka"_s);
+    test.find<QuickEntryRow>("VantuVPNQuickEntryItem")->setFocus();
+    info.nodes.removeAt(1);
+    test.state.setNodes(info);
+    QTRY_VERIFY(field->hasFocus());
+    QVERIFY(test.page->isQuickEntryOpen());
 }
 
 void QuickEntryTest::closesByItself()

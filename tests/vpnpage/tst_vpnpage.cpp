@@ -25,6 +25,9 @@ private Q_SLOTS:
     void cards();
     void cardsLeadToPages();
     void namesThePlaceOnTheWay();
+    void flagOnTheWay_data();
+    void flagOnTheWay();
+    void keepsTheKeyboard();
     void progressComesLate();
     void hostileNamesStayOneLine();
     void signalBars_data();
@@ -222,9 +225,69 @@ void VpnPageTest::namesThePlaceOnTheWay()
     test.page->setConnectProgress(kConnecting);
     QCOMPARE(value->text(), u"Japan"_s);
     QVERIFY(test.find<FlagLabel>("VantuVPNStatusFlag")->hasFlag());
+    QVERIFY(!test.page->setPendingConnectTarget({})); // What runs has its own.
+    QCOMPARE(value->text(), u"Japan"_s);
     test.page->setConnectProgress({});
     test.page->setConnectProgress(kConnecting);
     QCOMPARE(value->text(), smartSelectText());
+}
+
+void VpnPageTest::flagOnTheWay_data()
+{
+    QTest::addColumn<ConnectProgress>("progress");
+    QTest::addColumn<PendingConnectTarget>("target");
+    QTest::addColumn<QString>("expected");
+    using Kind = PendingConnectTarget::Kind;
+    ConnectProgress toOslo = kConnecting;
+    toOslo.label = u"NO - Oslo 1"_s;
+    ConnectProgress toParis = kConnecting;
+    toParis.label = u"FR - Paris"_s;
+    const PendingConnectTarget none;
+    QTest::newRow("told") << kConnecting
+                          << PendingConnectTarget{Kind::Node, u"1"_s, u"A"_s, u"se"_s} << u"se"_s;
+    QTest::newRow("listed") << toParis << PendingConnectTarget{Kind::Node, u"1"_s, u"A"_s, {}}
+                            << u"jp"_s;
+    QTest::newRow("group") << kConnecting << PendingConnectTarget{Kind::Smart, u"DE"_s, u"A"_s, {}}
+                           << u"de"_s;
+    QTest::newRow("region") << kConnecting
+                            << PendingConnectTarget{Kind::Smart, u"Asia"_s, u"A"_s, {}} << u""_s;
+    QTest::newRow("of the tray") << toOslo << none << u"no"_s;
+    QTest::newRow("not yet selected") << toParis << none << u""_s;
+    QTest::newRow("unnamed") << kConnecting << none << u"no"_s;
+}
+
+void VpnPageTest::flagOnTheWay()
+{
+    QFETCH(ConnectProgress, progress);
+    QFETCH(PendingConnectTarget, target);
+    AppState state;
+    NodesInfo nodes;
+    nodes.nodes = {VpnPageFixture::node(u"1"_s, u"Tokyo"_s, u"JP"_s)};
+    state.setNodes(nodes);
+    RuntimeInfo runtime = runtimeWith(u"disconnected"_s);
+    runtime.selectedNode = {u"8"_s, u"Oslo 1"_s, u"NO"_s, {}};
+    state.setRuntime(runtime);
+    QTEST(vpnSummary(state, {true, {}, progress, target}, {}).flagCode, "expected");
+}
+
+/// What runs takes the keyboard from nobody: it comes back to the button, not to a card.
+void VpnPageTest::keepsTheKeyboard()
+{
+    VpnPageFixture test;
+    auto *button = test.find<QPushButton>("VantuVPNPrimaryAction");
+    test.state.setRuntime(runtimeWith(u"connected"_s));
+    test.page->setDaemonAvailable(true, {});
+    for (const bool goesElsewhere : {false, true}) {
+        button->setFocus();
+        test.page->setConnectProgress(kDisconnecting);
+        QVERIFY(!button->isEnabled() && !qobject_cast<QPushButton *>(test.window.focusWidget()));
+        auto *card = test.find<QPushButton>("VantuVPNModeCard");
+        if (goesElsewhere) {
+            card->setFocus();
+        }
+        test.page->setConnectProgress({});
+        QCOMPARE(test.window.focusWidget(), goesElsewhere ? card : button);
+    }
 }
 
 void VpnPageTest::progressComesLate()

@@ -191,9 +191,13 @@ void UpdateDialog::setGate(bool gate)
 
 void UpdateDialog::setDownload(const GUIUpdateDownloadInfo &download)
 {
-    const bool news = download.state != m_download.state || !m_note.isEmpty();
+    const bool changes = download.state != m_download.state;
+    const bool noteEnds = !m_note.isEmpty() && (changes || !m_noteIsRemark);
+    const bool news = changes || noteEnds;
     m_download = download;
-    m_note.clear();
+    if (noteEnds) {
+        m_note.clear();
+    }
     renderStatus();
     renderButtons();
     // Every megabyte would be too much to listen to.
@@ -206,8 +210,15 @@ void UpdateDialog::setNote(const QString &text, Tone tone)
 {
     m_note = plaintext::singleLine(text, MessageArea::kMaxLength);
     m_noteTone = tone;
+    m_noteIsRemark = false;
     renderStatus();
     m_status->announce();
+}
+
+void UpdateDialog::setRemark(const QString &text, Tone tone)
+{
+    setNote(text, tone);
+    m_noteIsRemark = true;
 }
 
 void UpdateDialog::setWaiting(bool waiting)

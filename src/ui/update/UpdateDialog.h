@@ -35,6 +35,9 @@ public:
     void setDownload(const GUIUpdateDownloadInfo &download);
     /// A line that stands in place of the download's own one until the next setDownload().
     void setNote(const QString &text, Tone tone);
+    /// A line that has nothing to do with the download and stands in its place until that
+    /// reaches another state.
+    void setRemark(const QString &text, Tone tone);
     /// The download was asked for, or the installer is being opened, and no answer has
     /// come: the primary button waits.
     void setWaiting(bool waiting);
@@ -75,6 +78,7 @@ private:
     GUIUpdateDownloadInfo m_download;
     QString m_note; ///< Shown in place of the download's own line; empty for none.
     Tone m_noteTone = Tone::Muted;
+    bool m_noteIsRemark = false;
     bool m_waiting = false;
     bool m_exitAllowed = false;
     bool m_placed = false; ///< It was shown once, and its size is the user's.

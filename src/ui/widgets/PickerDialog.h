@@ -41,7 +41,7 @@ protected:
     /// Takes a button at the leading end of the foot.
     void addButton(QPushButton *button);
 
-    /// Reports the choice, which differs from the first one; the dialog closes after it.
+    /// Reports the choice, which differs from the first one; the dialog is closed by then.
     virtual void report(const QStringList &chosen) = 0;
 
 private:

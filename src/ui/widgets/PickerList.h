@@ -40,10 +40,10 @@ public:
     PickerList(Choice choice, const QString &searchText, const QString &namePrefix,
                QWidget *parent = nullptr);
 
-    /// Fills the list anew and brings the first of the chosen entries into view. Keys that
-    /// no entry has are left out.
     /// What the list says of itself to assistive technology.
     void setListName(const QString &name);
+    /// Fills the list anew and brings the first of the chosen entries into view. Keys that
+    /// no entry has are left out.
     void setEntries(const QList<PickerEntry> &entries, const QStringList &chosen);
 
     /// Keys in the order of the list, also of entries that the search hides.

@@ -72,6 +72,9 @@ void LocationsPage::takeCatalog()
         rebuildTabs();
         m_tree->showBelow(listRoot());
         m_tree->restore(snapshot, m_searchActive);
+        if (m_searchActive && !m_tree->currentIndex().isValid()) {
+            chooseFirstMatch();
+        }
         updateTabsEnabled();
     }
     renderMessage();
@@ -245,9 +248,23 @@ void LocationsPage::updateList()
         } else {
             m_stack->setCurrentWidget(m_emptyPage);
         }
-        m_showAllMatches->setVisible(m_searchActive && m_searchScopeTab >= 0);
+        updateShowAllMatches();
     }
     updateButtons();
+}
+
+void LocationsPage::updateShowAllMatches()
+{
+    const bool limited = m_searchActive && m_searchScopeTab >= 0;
+    if (!limited && m_showAllMatches->hasFocus()) {
+        // To what it showed, before Qt moves it to wherever Tab would lead.
+        if (m_stack->currentWidget() == m_tree) {
+            m_tree->setFocus(Qt::OtherFocusReason);
+        } else {
+            m_tools->search().setFocus(Qt::OtherFocusReason);
+        }
+    }
+    m_showAllMatches->setVisible(limited);
 }
 
 /// Returns whether there are rows to show instead.
@@ -323,7 +340,7 @@ void LocationsPage::updateRefreshing()
 {
     m_tools->setRefreshing(m_refreshing ||
                            m_state.runtime().catalogRefresh == wire::kCatalogRefreshing);
-    m_emptyAction->setEnabled(m_searchActive || m_tools->isRefreshFree());
+    m_focus.setEnabled(*m_emptyAction, m_searchActive || m_tools->isRefreshFree());
 }
 
 void LocationsPage::toggleGroups()

@@ -3,6 +3,7 @@
 #include "CatalogFilterModel.h"
 #include "CatalogTreeModel.h"
 #include "LocationsTreeView.h"
+#include "RestingFocus.h"
 
 #include <QHash>
 #include <QString>
@@ -105,6 +106,7 @@ private:
     void updateTabsEnabled();
 
     void updateList();
+    void updateShowAllMatches();
     bool updateEmptyTexts();
     void showEmpty(const QString &text, const QString &action);
     void runEmptyAction();
@@ -150,6 +152,7 @@ private:
     QWidget *m_emptyPage = nullptr;
     QLabel *m_empty = nullptr;
     QPushButton *m_emptyAction = nullptr;
+    RestingFocus m_focus;
     QPushButton *m_showAllMatches = nullptr;
     QTimer *m_catalogTimer = nullptr;
     QTimer *m_loadingDelay = nullptr;

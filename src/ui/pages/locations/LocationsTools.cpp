@@ -118,14 +118,14 @@ void LocationsTools::updateRefresh()
 {
     describe(*m_refresh, LocationsTexts::refresh(m_cooldown, m_refreshing), true);
     if (m_refresh->isEnabled() != isRefreshFree()) {
-        m_refresh->setEnabled(isRefreshFree());
+        m_focus.setEnabled(*m_refresh, isRefreshFree());
         Q_EMIT refreshFreeChanged();
     }
 }
 
 void LocationsTools::setGroups(bool hasRows, bool anyExpanded)
 {
-    m_toggle->setEnabled(hasRows);
+    m_focus.setEnabled(*m_toggle, hasRows);
     if (m_anyExpanded != anyExpanded) {
         m_anyExpanded = anyExpanded;
         m_toggle->setIcon(anyExpanded ? m_collapseIcon : m_expandIcon);
@@ -142,7 +142,7 @@ void LocationsTools::setConnect(bool hasTarget, const QString &description)
 
 void LocationsTools::updateConnect()
 {
-    m_connect->setEnabled(m_hasTarget && m_daemonAvailable);
+    m_focus.setEnabled(*m_connect, m_hasTarget && m_daemonAvailable);
     describe(*m_connect, m_connectText, true);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RestingFocus.h"
+
 #include <QFrame>
 #include <QIcon>
 #include <QString>
@@ -49,6 +51,7 @@ private:
     void updateConnect();
     void describe(QWidget &button, const QString &text, bool needsDaemon) const;
 
+    RestingFocus m_focus;
     SearchField *m_search = nullptr;
     QToolButton *m_toggle = nullptr;
     QToolButton *m_refresh = nullptr;

@@ -52,39 +52,35 @@ void ModePage::applyThemePalette(const ThemePalette &palette)
 void ModePage::setDaemonAvailable(bool available, const QString &reason)
 {
     m_awayReason = plaintext::singleLine(reason, kMaxStatusLength);
-    updateBlocking(available, m_inFlight);
+    if (available && !m_available) {
+        m_error.clear(); // It was about the time before.
+    }
+    updateBlocking([this, available] { m_available = available; });
 }
 
-void ModePage::setChangeInFlight(bool inFlight)
+void ModePage::setChangeInFlight(bool mode, bool localNetwork)
 {
-    if (inFlight) {
+    if (mode || localNetwork) {
         m_error.clear();
-    } else {
-        m_changingLocalNetwork = false;
     }
-    updateBlocking(m_available, inFlight);
+    updateBlocking([this, mode, localNetwork] {
+        m_changingMode = mode;
+        m_changingLocalNetwork = localNetwork;
+    });
 }
 
 /// Whoever works with the keyboard is put back to where they were once everything can be
 /// used again, unless they went elsewhere.
-void ModePage::updateBlocking(bool available, bool inFlight)
+void ModePage::updateBlocking(const std::function<void()> &change)
 {
     const bool wasBlocked = !blockingReason().isEmpty();
-    m_available = available;
-    m_inFlight = inFlight;
+    change();
     const bool blocked = !blockingReason().isEmpty();
-    QWidget *focused = window()->focusWidget();
-    if (blocked && !wasBlocked && focused && isAncestorOf(focused)) {
-        m_focusBefore = focused;
-        focused->clearFocus();
+    if (blocked && !wasBlocked) {
+        m_focus.rest(*m_scroll);
     }
     render();
-    if (!blocked && m_focusBefore) {
-        if (!window()->focusWidget() && m_focusBefore->isVisible()) {
-            m_focusBefore->setFocus(Qt::OtherFocusReason);
-        }
-        m_focusBefore.clear();
-    }
+    m_focus.giveBack();
 }
 
 void ModePage::showOperationError(const QString &message)
@@ -149,10 +145,10 @@ QString ModePage::blockingReason() const
         return plaintext::toolTip(m_awayReason.isEmpty() ? ModeTexts::modeUnavailable()
                                                          : m_awayReason);
     }
-    if (!m_inFlight) {
-        return {};
+    if (m_changingLocalNetwork) {
+        return tr("Updating local network...");
     }
-    return m_changingLocalNetwork ? tr("Updating local network...") : tr("Switching mode...");
+    return m_changingMode ? tr("Switching mode...") : QString();
 }
 
 void ModePage::render()
@@ -171,11 +167,12 @@ void ModePage::renderSummary()
     const ModeSummary summary = ModeTexts::summary(mode(), m_regionNames);
     m_summaryTitle->setText(summary.title);
     m_summaryDetail->setText(summary.detail);
-    QString status = m_inFlight ? blockingReason() : m_error;
+    const bool inFlight = m_changingMode || m_changingLocalNetwork;
+    QString status = inFlight ? blockingReason() : m_error;
     if (!m_available) {
         status = m_awayReason;
     }
-    const bool isError = m_available && !m_inFlight && !m_error.isEmpty();
+    const bool isError = m_available && !inFlight && !m_error.isEmpty();
     setStyleProperty(*m_status, "vantuRole", isError ? u"error"_s : u"muted"_s);
     m_status->setText(status);
 }
@@ -278,17 +275,12 @@ void ModePage::chooseLocalNetwork(const QString &value)
 {
     m_error.clear();
     render();
-    m_changingLocalNetwork = true;
     Q_EMIT setLocalNetworkRequested(value);
-    if (!m_inFlight) { // Refused.
-        m_changingLocalNetwork = false;
-    }
 }
 
 void ModePage::request(const ModeInfo &mode)
 {
     m_error.clear();
-    m_changingLocalNetwork = false;
     render();
     if (facts::isProxyMode(mode) && facts::isKillSwitchOn(facts::effectiveKillSwitch(m_state))) {
         m_dialogs->askForKillSwitchOff();
@@ -345,8 +337,15 @@ void ModePage::updateRulesWanted()
         isVisible() && m_available && facts::isVantuVPNMode(mode()) && facts::isSplit(mode());
     const bool wasWanted = std::exchange(m_rulesWanted, wanted);
     if (wanted && !wasWanted && !m_rulesLoading && m_state.splitRules() == SplitRulesInfo{}) {
-        Q_EMIT splitRulesRequested();
+        requestRules();
     }
+}
+
+void ModePage::requestRules()
+{
+    m_error.clear();
+    renderSummary();
+    Q_EMIT splitRulesRequested();
 }
 
 void ModePage::showEvent(QShowEvent *event)

@@ -3,9 +3,9 @@
 #include "ModeRecords.h"
 #include "ModeRouting.h"
 #include "RegionNames.h"
+#include "RestingFocus.h"
 
 #include <QList>
-#include <QPointer>
 #include <QWidget>
 
 #include <functional>
@@ -39,8 +39,9 @@ public:
     /// While the daemon is away its values stay readable; `reason` stands above them.
     void setDaemonAvailable(bool available, const QString &reason);
 
-    /// A change of the mode or the local network is on its way to the daemon.
-    void setChangeInFlight(bool inFlight);
+    /// A change of the mode, or of the local network, is on its way to the daemon, whoever
+    /// asked for it.
+    void setChangeInFlight(bool mode, bool localNetwork);
     /// Why the last change failed; stays until the next one. An empty message becomes
     /// "Mode operation failed".
     void showOperationError(const QString &message);
@@ -93,7 +94,7 @@ private:
     void renderChoice(const Choice &choice);
     void renderRouting(ModeRouting &routing, bool proxy);
     void renderLocalNetwork();
-    void updateBlocking(bool available, bool inFlight);
+    void updateBlocking(const std::function<void()> &change);
     QString blockingReason() const;
 
     const ModeInfo &mode() const;
@@ -108,21 +109,22 @@ private:
     void closeOutdatedRegions();
     void stepFocus(const ModeOption *from, int step);
     void updateRulesWanted();
+    void requestRules();
 
     AppState &m_state;
     ModeDialogs *m_dialogs = nullptr;
     RegionNames m_regionNames;
     bool m_available = true;
     QString m_awayReason;
-    bool m_inFlight = false;
-    bool m_changingLocalNetwork = false; ///< What is in flight, as far as this page knows.
+    bool m_changingMode = false;
+    bool m_changingLocalNetwork = false;
     QString m_error;
     bool m_rulesLoading = false;
     bool m_rulesWanted = false; ///< The rules are on show, or would be if they were here.
     QString m_rulesError;
     bool m_regionsOfProxy = false; ///< What the region picker is open for.
     QString m_regionsRoute;
-    QPointer<QWidget> m_focusBefore; ///< Had the focus before everything was disabled.
+    RestingFocus m_focus;
 
     PageScrollArea *m_scroll = nullptr;
     ElidedLabel *m_summaryTitle = nullptr;

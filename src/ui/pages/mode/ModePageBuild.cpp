@@ -202,7 +202,7 @@ void ModePage::connectSignals()
         render();
     });
     connect(m_localNetwork, &SegmentedControl::chosen, this, &ModePage::chooseLocalNetwork);
-    connect(m_dialogs, &ModeDialogs::rulesRequested, this, &ModePage::splitRulesRequested);
+    connect(m_dialogs, &ModeDialogs::rulesRequested, this, &ModePage::requestRules);
     connect(m_dialogs, &ModeDialogs::importRequested, this,
             [this](const QString &kind, const QString &content) {
                 m_error.clear();

@@ -181,9 +181,9 @@ void SplitRulesEditorDialog::buildButtons(QVBoxLayout &column)
     m_clear = dialogparts::makeButton(u"VantuSplitRulesClear"_s,
                                       QCoreApplication::translate("ModePage", "Clear"), this);
     connect(m_clear, &QPushButton::clicked, m_text, &SplitRulesText::removeAll);
-    auto *cancel = dialogparts::makeButton(u"VantuSplitRulesCancel"_s,
-                                           QCoreApplication::translate("ModePage", "Cancel"), this);
-    connect(cancel, &QPushButton::clicked, this, &SplitRulesEditorDialog::reject);
+    m_cancel = dialogparts::makeButton(u"VantuSplitRulesCancel"_s,
+                                       QCoreApplication::translate("ModePage", "Cancel"), this);
+    connect(m_cancel, &QPushButton::clicked, this, &SplitRulesEditorDialog::reject);
     m_apply = dialogparts::makeButton(u"VantuSplitRulesApply"_s, plainApplyText(), this);
     m_apply->setDefault(true);
     connect(m_apply, &QPushButton::clicked, this, &SplitRulesEditorDialog::apply);
@@ -192,7 +192,7 @@ void SplitRulesEditorDialog::buildButtons(QVBoxLayout &column)
     row->setSpacing(kGap);
     row->addWidget(m_clear);
     row->addStretch(1);
-    row->addWidget(cancel);
+    row->addWidget(m_cancel);
     row->addWidget(m_apply);
     column.addLayout(row);
 }
@@ -243,9 +243,12 @@ void SplitRulesEditorDialog::finishImport(const QString &error)
         return;
     }
     m_saving = false;
+    const auto proceed = std::exchange(m_proceed, nullptr);
     if (error.isEmpty()) {
-        closeQuestion();
         accept();
+        if (proceed) {
+            proceed();
+        }
         return;
     }
     const QString reason = error.trimmed();
@@ -281,6 +284,7 @@ void SplitRulesEditorDialog::showKind(const QString &kind)
 
 void SplitRulesEditorDialog::apply()
 {
+    closeQuestion(); // A screen reader can press the button behind it.
     m_saving = true;
     m_importError.clear();
     render();
@@ -292,7 +296,10 @@ void SplitRulesEditorDialog::apply()
 
 void SplitRulesEditorDialog::reject()
 {
-    whenSafeToDiscard([this] { QDialog::reject(); });
+    // What is being saved can't be discarded any more.
+    if (!m_saving) {
+        whenSafeToDiscard([this] { QDialog::reject(); });
+    }
 }
 
 void SplitRulesEditorDialog::whenSafeToDiscard(std::function<void()> proceed)
@@ -303,7 +310,7 @@ void SplitRulesEditorDialog::whenSafeToDiscard(std::function<void()> proceed)
         return;
     }
     m_proceed = std::move(proceed);
-    if (!m_question) {
+    if (!m_saving && !m_question) {
         ask();
     }
 }
@@ -386,11 +393,11 @@ void SplitRulesEditorDialog::render()
                         : canEdit() ? plaintext::toolTip(QCoreApplication::translate(
                                           "ModePage", "This list is empty."))
                                     : plaintext::toolTip(whyNotApply()));
-    for (const QLatin1StringView kind :
-         {wire::kRouteDirect, wire::kRouteTunnel, wire::kRulesBlock}) {
-        QPushButton *segment = m_kinds->segment(kind);
-        segment->setEnabled(!m_saving);
-        segment->setToolTip(m_saving ? plaintext::toolTip(savingText()) : QString());
+    for (QPushButton *button :
+         {m_kinds->segment(wire::kRouteDirect), m_kinds->segment(wire::kRouteTunnel),
+          m_kinds->segment(wire::kRulesBlock), m_cancel}) {
+        button->setEnabled(!m_saving);
+        button->setToolTip(m_saving ? plaintext::toolTip(savingText()) : QString());
     }
 }
 

@@ -44,7 +44,8 @@ public:
     /// The text differs from what the daemon holds.
     bool isDirty() const;
     /// Calls `proceed` at once, or after the user agreed to discard the edits, which
-    /// are gone then. While the question is open a later call takes its place.
+    /// are gone then. While the question is open a later call takes its place. While an
+    /// import is under way, once it has been taken; never when it fails.
     void whenSafeToDiscard(std::function<void()> proceed);
     /// Closes without asking.
     void closeForGood();
@@ -52,7 +53,7 @@ public:
     /// "direct", "tunnel" or "block".
     QString currentKind() const;
 
-    /// Asks before it discards edits.
+    /// Asks before it discards edits, and stays open while they are being saved.
     void reject() override;
 
 Q_SIGNALS:
@@ -90,5 +91,6 @@ private:
     QWidget *m_errorCard = nullptr;
     ElidedLabel *m_error = nullptr;
     QPushButton *m_clear = nullptr;
+    QPushButton *m_cancel = nullptr;
     QPushButton *m_apply = nullptr;
 };

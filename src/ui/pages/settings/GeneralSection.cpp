@@ -1,6 +1,7 @@
 #include "GeneralSection.h"
 
 #include "AppState.h"
+#include "ControlProtocol.h"
 #include "ElidedLabel.h"
 #include "GuiPreferences.h"
 #include "SettingsRow.h"
@@ -15,7 +16,7 @@ namespace {
 bool isOn(const QString &value)
 {
     const QString word = value.trimmed().toLower();
-    return word == "on"_L1 || word == "true"_L1 || word == "1"_L1;
+    return word == wire::kOn || word == "true"_L1 || word == "1"_L1;
 }
 
 } // namespace

@@ -126,6 +126,6 @@ void LanguagePickerDialog::report(const QStringList &chosen)
     if (key == kSystemKey) {
         Q_EMIT applied(wire::kLanguageSourceSystem, language::systemCode());
     } else {
-        Q_EMIT applied(u"explicit"_s, key);
+        Q_EMIT applied(wire::kLanguageSourceExplicit, key);
     }
 }

@@ -11,7 +11,6 @@
 #include "HandOnTheme.h"
 #include "KillSwitchSection.h"
 #include "LanguageSection.h"
-#include "MessageArea.h"
 #include "PageScrollArea.h"
 #include "PlainText.h"
 #include "ProxySection.h"
@@ -194,10 +193,10 @@ void SettingsPage::setRequestInFlight(bool inFlight)
     m_situation.requestInFlight = inFlight;
     if (inFlight) {
         clearError();
-        restFocus();
+        m_focus.rest(*m_scroll);
     }
     render();
-    giveFocusBack();
+    m_focus.giveBack();
 }
 
 void SettingsPage::setUpdateCheckInFlight(bool inFlight)
@@ -208,32 +207,10 @@ void SettingsPage::setUpdateCheckInFlight(bool inFlight)
     m_situation.updateCheckInFlight = inFlight;
     if (inFlight) {
         clearError();
-        restFocus();
+        m_focus.rest(*m_scroll);
     }
     render();
-    giveFocusBack();
-}
-
-/// A control that is disabled hands the keyboard on to the next one, which would carry
-/// the page off to there.
-void SettingsPage::restFocus()
-{
-    QWidget *focused = window()->focusWidget();
-    if (focused && focused != m_scroll && m_scroll->isAncestorOf(focused)) {
-        m_restingFocus = focused;
-        m_scroll->setFocus(Qt::OtherFocusReason);
-    }
-}
-
-void SettingsPage::giveFocusBack()
-{
-    if (m_restingFocus && window()->focusWidget() != m_scroll) {
-        m_restingFocus.clear(); // The user went elsewhere.
-    }
-    if (m_restingFocus && m_restingFocus->isEnabled()) {
-        m_restingFocus->setFocus(Qt::OtherFocusReason);
-        m_restingFocus.clear();
-    }
+    m_focus.giveBack();
 }
 
 void SettingsPage::showOperationError(const QString &message)

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "RestingFocus.h"
 #include "SettingsSituation.h"
 
-#include <QPointer>
 #include <QStringList>
 #include <QUrl>
 #include <QWidget>
@@ -97,12 +97,10 @@ private:
     void renderMessage();
     void showError(const QString &message);
     void clearError();
-    void restFocus();
-    void giveFocusBack();
 
     SettingsSituation m_situation;
     QString m_error;
-    QPointer<QWidget> m_restingFocus; ///< Had the keyboard before it was disabled.
+    RestingFocus m_focus;
     QLabel *m_message = nullptr;
     PageScrollArea *m_scroll = nullptr;
     GeneralSection *m_general = nullptr;

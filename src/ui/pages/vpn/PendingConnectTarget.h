@@ -15,7 +15,7 @@ struct PendingConnectTarget
     Kind kind = Kind::None;
     QString id;
     QString label;
-    QString flagCode; ///< "jp"; empty when the country isn't known.
+    QString flagCode; ///< "jp"; empty when it is to be found out from the rest.
 
     bool operator==(const PendingConnectTarget &) const = default;
 };

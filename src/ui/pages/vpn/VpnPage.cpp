@@ -121,21 +121,17 @@ void VpnPage::connectSignals()
     connect(&m_durationTimer, &QTimer::timeout, this, &VpnPage::render);
     connect(m_statusCard, &VpnStatusCard::triggered, this, &VpnPage::trigger);
 
-    using Kind = PendingConnectTarget::Kind;
     connect(m_quickEntry, &VpnQuickEntry::connectNodeRequested, this,
-            [this](const QString &nodeID, const QString &label, const QString &flagCode) {
-                connectTo({Kind::Node, nodeID, label, flagCode});
-            });
+            &VpnPage::connectNodeRequested);
     connect(m_quickEntry, &VpnQuickEntry::connectSmartRequested, this,
-            [this](const QString &selector, const QString &label, const QString &flagCode) {
-                connectTo({Kind::Smart, selector, label, flagCode});
-            });
+            &VpnPage::connectSmartRequested);
     connect(m_quickEntry, &VpnQuickEntry::setNodeFavoriteRequested, this,
             &VpnPage::setNodeFavoriteRequested);
     connect(m_quickEntry, &VpnQuickEntry::browseLocationsRequested, this,
             &VpnPage::browseLocationsRequested);
     connect(m_quickEntry, &VpnQuickEntry::recentConnectionsCleared, this,
             &VpnPage::recentConnectionsCleared);
+    connect(m_quickEntry, &VpnQuickEntry::recentsNotCleared, this, &VpnPage::recentsNotCleared);
     connect(m_quickEntry, &VpnQuickEntry::visibleChanged, this, &VpnPage::quickEntryVisibleChanged);
     connect(m_quickEntry, &VpnQuickEntry::leftForward, this,
             [this] { m_statusCard->primaryButton()->setFocus(Qt::TabFocusReason); });
@@ -157,10 +153,13 @@ void VpnPage::setConnectProgress(const ConnectProgress &progress)
     render();
 }
 
-void VpnPage::setPendingConnectTarget(const PendingConnectTarget &target)
+bool VpnPage::setPendingConnectTarget(const PendingConnectTarget &target)
 {
+    if (m_situation.progress.pending) {
+        return false;
+    }
     m_situation.target = target;
-    render();
+    return true;
 }
 
 void VpnPage::applyThemePalette(const ThemePalette &palette)
@@ -217,7 +216,6 @@ void VpnPage::trigger(PrimaryAction::Intent intent)
     closeQuickEntry();
     switch (intent) {
     case PrimaryAction::Intent::Connect:
-        m_situation.target = {};
         Q_EMIT connectRuntimeRequested();
         break;
     case PrimaryAction::Intent::Disconnect:
@@ -229,20 +227,6 @@ void VpnPage::trigger(PrimaryAction::Intent intent)
     case PrimaryAction::Intent::SignIn:
         Q_EMIT signInRequested();
         break;
-    }
-}
-
-void VpnPage::connectTo(const PendingConnectTarget &target)
-{
-    m_situation.target = target;
-    if (target.kind == PendingConnectTarget::Kind::Node) {
-        Q_EMIT connectNodeRequested(target.id, target.label);
-    } else {
-        Q_EMIT connectSmartRequested(target.id, target.label);
-    }
-    // Whoever takes the request up says so at once; a refused place is not named.
-    if (!m_situation.progress.pending) {
-        m_situation.target = {};
     }
 }
 

@@ -33,10 +33,11 @@ public:
     /// Whether the daemon answers; `reason` tells the user why not.
     void setDaemonAvailable(bool available, const QString &reason);
     void setConnectProgress(const ConnectProgress &progress);
-    /// The place of a connect that is asked for elsewhere in the window, to be named
-    /// while it is in progress. Set it before the request goes out; it is forgotten when
-    /// the operation ends.
-    void setPendingConnectTarget(const PendingConnectTarget &target);
+    /// The place of a connect, to be named while it is in progress. Set it before the
+    /// request goes out, and none after one that nobody took up; it is forgotten when the
+    /// operation ends. Does nothing and returns false during an operation, which has its
+    /// own.
+    bool setPendingConnectTarget(const PendingConnectTarget &target);
 
     /// For what paints itself; the rest follows the window's style sheet.
     void applyThemePalette(const ThemePalette &palette);
@@ -54,15 +55,19 @@ Q_SIGNALS:
     void cancelConnectRequested();
     void disconnectRuntimeRequested();
     void signInRequested();
-    void connectNodeRequested(const QString &nodeID, const QString &label);
+    /// `flagCode` is as in PendingConnectTarget.
+    void connectNodeRequested(const QString &nodeID, const QString &label, const QString &flagCode);
     /// `selector` is a group's key.
-    void connectSmartRequested(const QString &selector, const QString &label);
+    void connectSmartRequested(const QString &selector, const QString &label,
+                               const QString &flagCode);
     void setNodeFavoriteRequested(const QString &nodeID, bool favorite);
     /// A page by its index in the window.
     void pageRequested(int index);
     /// The list of locations, searched for `query` unless that is empty.
     void browseLocationsRequested(const QString &query);
     void recentConnectionsCleared();
+    /// What the user cleared is still there.
+    void recentsNotCleared();
     void quickEntryVisibleChanged(bool visible);
 
 protected:
@@ -77,7 +82,6 @@ private:
     void connectSignals();
     void render();
     void trigger(PrimaryAction::Intent intent);
-    void connectTo(const PendingConnectTarget &target);
 
     AppState &m_state;
     VpnSituation m_situation;

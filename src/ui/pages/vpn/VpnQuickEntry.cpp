@@ -56,16 +56,14 @@ void VpnQuickEntry::connectPopup()
     });
     connect(m_popup, &VpnQuickEntryPopup::favoriteRequested, this,
             &VpnQuickEntry::setNodeFavoriteRequested);
-    connect(m_popup, &VpnQuickEntryPopup::searchesCleared, this, [this] {
-        m_field.setFocus();
-        m_recents.clearSearches();
-        refresh();
-    });
+    connect(m_popup, &VpnQuickEntryPopup::searchesCleared, this,
+            [this] { afterClearing(m_recents.clearSearches()); });
     connect(m_popup, &VpnQuickEntryPopup::connectionsCleared, this, [this] {
-        m_field.setFocus();
-        m_recents.clearNodes();
-        refresh();
-        Q_EMIT recentConnectionsCleared();
+        const bool cleared = m_recents.clearNodes();
+        afterClearing(cleared);
+        if (cleared) {
+            Q_EMIT recentConnectionsCleared();
+        }
     });
     connect(m_popup, &VpnQuickEntryPopup::browseRequested, this, [this] {
         close();
@@ -301,6 +299,15 @@ void VpnQuickEntry::rememberSearch()
 {
     if (m_popup->content().searching) {
         m_recents.addSearch(m_field.text());
+    }
+}
+
+void VpnQuickEntry::afterClearing(bool cleared)
+{
+    m_field.setFocus();
+    refresh();
+    if (!cleared) {
+        Q_EMIT recentsNotCleared();
     }
 }
 

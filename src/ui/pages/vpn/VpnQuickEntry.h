@@ -46,6 +46,8 @@ Q_SIGNALS:
     void setNodeFavoriteRequested(const QString &nodeID, bool favorite);
     void browseLocationsRequested(const QString &query);
     void recentConnectionsCleared();
+    /// What the user cleared is still there.
+    void recentsNotCleared();
     void visibleChanged(bool visible);
     /// Tab left the popup behind its last entry.
     void leftForward();
@@ -64,6 +66,7 @@ private:
     void toggleFirstFavorite();
     void choose(const QuickEntryItem &item);
     void rememberSearch();
+    void afterClearing(bool cleared);
     void leave(bool atEnd);
     void closeUnlessInside(const QWidget *focus);
     bool isInside(const QWidget *widget) const;

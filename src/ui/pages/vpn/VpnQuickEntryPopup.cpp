@@ -394,7 +394,10 @@ bool VpnQuickEntryPopup::focusNextPrevChild(bool next)
     const qsizetype at =
         order.indexOf(qobject_cast<QAbstractButton *>(QApplication::focusWidget()));
     const qsizetype to = at + (next ? 1 : -1);
-    if (at < 0 || to < 0 || to >= order.size()) {
+    if (at < 0) {
+        // What had the keyboard was hidden or disabled, and Qt seeks another place for it.
+        Q_EMIT left(false);
+    } else if (to < 0 || to >= order.size()) {
         Q_EMIT left(next);
     } else {
         focusOn(order.at(to), next ? Qt::TabFocusReason : Qt::BacktabFocusReason);

@@ -85,7 +85,7 @@ void VpnStatusCard::render(const VpnSummary &summary)
     m_flag->setCode(summary.flagCode);
 
     m_primary->setText(action.button);
-    m_primary->setEnabled(action.enabled);
+    m_focus.setEnabled(*m_primary, action.enabled);
     m_primary->setAccessibleDescription(action.title);
     m_primary->setToolTip(action.enabled || action.pending ? QString()
                                                            : plaintext::toolTip(summary.detail));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PrimaryAction.h"
+#include "RestingFocus.h"
 
 #include <QFrame>
 
@@ -30,6 +31,7 @@ Q_SIGNALS:
 private:
     void buildContent();
 
+    RestingFocus m_focus;
     PrimaryAction::Intent m_intent = PrimaryAction::Intent::Connect;
     QLabel *m_dot = nullptr;
     ElidedLabel *m_title = nullptr;

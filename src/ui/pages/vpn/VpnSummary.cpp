@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDateTime>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -100,12 +101,32 @@ void fillDetail(VpnSummary &summary, const AppState &state, const VpnSituation &
     summary.detail = plaintext::singleLine(summary.detail, kMaxDetailLength);
 }
 
+QString targetFlag(const AppState &state, const PendingConnectTarget &target, const QString &label)
+{
+    if (!target.flagCode.isEmpty()) {
+        return target.flagCode;
+    }
+    if (target.kind == PendingConnectTarget::Kind::Smart) {
+        return flagCode(target.id);
+    }
+    const QList<NodeEntry> &nodes = state.nodes().nodes;
+    const auto node = std::find_if(nodes.begin(), nodes.end(), [&target](const NodeEntry &each) {
+        return !target.id.isEmpty() && each.id.trimmed() == target.id;
+    });
+    if (node != nodes.end()) {
+        return flagCode(node->region);
+    }
+    // A connect of the tray's has nothing but a name, which the daemon may know.
+    const NodeEntry selected = facts::effectiveSelected(state.runtime(), state.nodes());
+    return NodeMenuModel::label(selected) == label ? flagCode(selected.region) : QString();
+}
+
 QString flagOf(const AppState &state, const VpnSituation &situation, const VpnSummary &summary)
 {
-    if (!targetLabel(situation).isEmpty()) {
-        return situation.target.flagCode;
-    }
     const RuntimeInfo &runtime = state.runtime();
+    if (const QString label = targetLabel(situation); !label.isEmpty()) {
+        return targetFlag(state, situation.target, label);
+    }
     if (situation.available && facts::isConnected(runtime)) {
         return flagCode(NodeMenuModel::currentNode(runtime, state.nodes()).region);
     }
