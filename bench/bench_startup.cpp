@@ -203,7 +203,6 @@ bool prepareDemo(const QString &directory, QProcess &daemon)
     }
     qputenv("VANTU_DEMO_DIRECTORY", QFile::encodeName(directory));
     qputenv("VANTU_DEMO_DAEMON_PID", QByteArray::number(daemon.processId()));
-    qputenv("VANTU_DEMO_KEEP_DAEMON", "1");
     pause(500);
     return true;
 }
@@ -222,7 +221,7 @@ int main(int argc, char **argv)
     const QTemporaryDir directory;
     QProcess daemon;
     TrayHost host;
-    if (!host.start() || !prepareDemo(directory.path(), daemon)) {
+    if (!directory.isValid() || !host.start() || !prepareDemo(directory.path(), daemon)) {
         std::fprintf(stderr, "could not set up the bench\n");
         return 1;
     }

@@ -17,8 +17,8 @@ namespace {
 // Handed to a restarted client through its environment.
 constexpr auto kDirectoryVariable = "VANTU_DEMO_DIRECTORY";
 constexpr auto kPidVariable = "VANTU_DEMO_DAEMON_PID";
-/// Set by who runs a daemon for several clients, one after the other.
-constexpr auto kKeepVariable = "VANTU_DEMO_KEEP_DAEMON";
+/// The directory again, if a demonstration made it; anybody else's is left alone.
+constexpr auto kMadeVariable = "VANTU_DEMO_MADE_DIRECTORY";
 
 constexpr int kStartDeadlineMs = 5000;
 constexpr int kStopDeadlineMs = 2000;
@@ -38,8 +38,8 @@ DemoDaemon::DemoDaemon()
         m_directory = directory.path();
         m_pid = 0;
         qputenv(kDirectoryVariable, QFile::encodeName(m_directory));
+        qputenv(kMadeVariable, QFile::encodeName(m_directory));
     }
-    QDir().mkpath(configDirectory());
 }
 
 QString DemoDaemon::socketPath() const
@@ -59,6 +59,10 @@ QString DemoDaemon::configDirectory() const
 
 bool DemoDaemon::start(const QString &program, const QStringList &arguments, QString *error)
 {
+    if (m_directory.isEmpty() || !QDir().mkpath(configDirectory())) {
+        *error = u"could not make a temporary folder"_s;
+        return false;
+    }
     if (m_pid > 0 && waitUntilListening()) {
         return true;
     }
@@ -96,7 +100,7 @@ bool DemoDaemon::waitUntilListening() const
 
 void DemoDaemon::stop()
 {
-    if (qEnvironmentVariableIsSet(kKeepVariable)) {
+    if (m_directory.isEmpty() || qEnvironmentVariable(kMadeVariable) != m_directory) {
         return;
     }
     if (m_pid > 0) {

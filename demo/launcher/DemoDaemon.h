@@ -10,16 +10,15 @@ class DemoDaemon final
     Q_DISABLE_COPY_MOVE(DemoDaemon)
 
 public:
-    /// Joins the demonstration that this process was restarted into, or else makes a
-    /// private directory for a new one.
+    /// Joins the demonstration that the environment names, such as the one that this
+    /// process was restarted into, or else makes a private directory for a new one.
     DemoDaemon();
 
     /// Starts the daemon, unless it runs already, and waits until it listens. False
-    /// with a text in `error` when it can't be started.
+    /// with a text in `error` when it can't be started or there is no directory.
     bool start(const QString &program, const QStringList &arguments, QString *error);
 
-    /// Ends the daemon and removes the demonstration's directory, unless the environment
-    /// says that both are somebody else's.
+    /// Ends the daemon and removes the directory, if a demonstration made it.
     void stop();
 
     QString socketPath() const;

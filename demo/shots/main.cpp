@@ -82,13 +82,18 @@ public:
         const QString error = m_server.listen(socketPath());
         if (!error.isEmpty()) {
             std::fprintf(stderr, "%s\n", qUtf8Printable(error));
+            m_complete = false;
         }
     }
 
     enum class Tour { Pages, ConnectedPages, Dialogs };
 
+    /// Takes all pictures that can be taken; false when any is missing, after saying which.
     bool run(Tour tour)
     {
+        if (!m_complete) {
+            return false; // There is no daemon.
+        }
         VantuAppShell shell(socketPath());
         // Whatever language the daemon speaks, the pictures are of the loaded one.
         shell.setLanguageRestartAllowed(false);
@@ -96,7 +101,7 @@ public:
         MainWindow *window = findWindow();
         if (!window ||
             !waitFor([&shell] { return !shell.state().runtime().authState.isEmpty(); })) {
-            return false;
+            return miss(u"the window"_s);
         }
         if (tour == Tour::ConnectedPages) {
             shell.connectRuntime();
@@ -104,7 +109,7 @@ public:
             take(*window, u"vpn-connecting"_s);
             if (!waitFor(
                     [&shell] { return shell.state().runtime().tunnelState == "connected"_L1; })) {
-                return false;
+                return miss(u"the connection"_s);
             }
         }
         if (tour == Tour::Dialogs) {
@@ -113,7 +118,7 @@ public:
             takePages(*window);
         }
         shell.quit();
-        return true;
+        return m_complete;
     }
 
 private:
@@ -130,13 +135,33 @@ private:
     void take(QWidget &window, const QString &name)
     {
         pause(kSettleMs);
-        window.grab().save(m_prefix + name + u".png"_s);
+        if (!window.grab().save(m_prefix + name + u".png"_s)) {
+            miss(name);
+        }
+    }
+
+    /// Something that pictures need and that isn't there; returns false.
+    bool miss(const QString &what)
+    {
+        std::fprintf(stderr, "%s: %s is missing\n", qUtf8Printable(m_prefix), qUtf8Printable(what));
+        m_complete = false;
+        return false;
+    }
+
+    template<typename Widget>
+    Widget *find(const MainWindow &window, const QString &name)
+    {
+        auto *widget = window.findChild<Widget *>(name);
+        if (!widget) {
+            miss(name);
+        }
+        return widget;
     }
 
     void takePages(MainWindow &window)
     {
         take(window, u"vpn"_s);
-        if (auto *search = window.findChild<QLineEdit *>(u"VantuVPNSearch"_s)) {
+        if (auto *search = find<QLineEdit>(window, u"VantuVPNSearch"_s)) {
             search->setFocus();
             QMetaObject::invokeMethod(search, "textEdited", Q_ARG(QString, QString()));
             take(window, u"vpn-quick-entry"_s);
@@ -147,14 +172,14 @@ private:
         }
         window.showPage(static_cast<int>(Page::Locations));
         take(window, u"locations"_s);
-        if (auto *tabs = window.findChild<QTabBar *>(u"VantuLocationsTabs"_s)) {
+        if (auto *tabs = find<QTabBar>(window, u"VantuLocationsTabs"_s)) {
             tabs->setCurrentIndex(tabs->count() - 1);
         }
-        if (auto *tree = window.findChild<QTreeView *>(u"VantuLocationsTree"_s)) {
+        if (auto *tree = find<QTreeView>(window, u"VantuLocationsTree"_s)) {
             tree->expandAll();
             take(window, u"locations-expanded"_s);
         }
-        if (auto *search = window.findChild<QLineEdit *>(u"VantuLocationsSearch"_s)) {
+        if (auto *search = find<QLineEdit>(window, u"VantuLocationsSearch"_s)) {
             search->setText(u"lon"_s);
             take(window, u"locations-search"_s);
             search->setText(u"nowhere"_s);
@@ -165,7 +190,7 @@ private:
         take(window, u"mode"_s);
         window.showPage(static_cast<int>(Page::Settings));
         take(window, u"settings"_s);
-        if (auto *content = window.findChild<QWidget *>(u"VantuSettingsScrollContent"_s)) {
+        if (auto *content = find<QWidget>(window, u"VantuSettingsScrollContent"_s)) {
             take(*content, u"settings-whole"_s);
         }
         window.showPage(static_cast<int>(Page::Account));
@@ -180,27 +205,26 @@ private:
     void takeDialog(MainWindow &window, Page page, const QString &button, const QString &name)
     {
         window.showPage(static_cast<int>(page));
-        auto *opener = window.findChild<QAbstractButton *>(button);
+        auto *opener = find<QAbstractButton>(window, button);
         if (!opener || !waitFor([opener] { return opener->isVisible() && opener->isEnabled(); })) {
-            std::fprintf(stderr, "%s can't be pressed\n", qUtf8Printable(button));
+            miss(name);
             return;
         }
         opener->click();
-        takeModal(name);
-    }
-
-    void takeModal(const QString &name)
-    {
-        if (waitFor([] { return QApplication::activeModalWidget() != nullptr; })) {
-            take(*QApplication::activeModalWidget(), name);
-            QApplication::activeModalWidget()->close();
+        if (!waitFor([] { return QApplication::activeModalWidget() != nullptr; })) {
+            miss(name);
+            return;
         }
+        take(*QApplication::activeModalWidget(), name);
+        QApplication::activeModalWidget()->close();
     }
 
     void takeDialogs(VantuAppShell &shell, MainWindow &window)
     {
         shell.setModePreference(moderequest::vantuVPNSplit(shell.state().runtime().mode));
-        waitFor([&shell] { return facts::isSplit(shell.state().runtime().mode); });
+        if (!waitFor([&shell] { return facts::isSplit(shell.state().runtime().mode); })) {
+            miss(u"the split mode"_s);
+        }
         window.showPage(static_cast<int>(Page::Mode));
         take(window, u"mode-split"_s);
         takeDialog(window, Page::Mode, u"VantuModeVantuCustomRulesEdit"_s, u"rules"_s);
@@ -218,18 +242,24 @@ private:
             }
             return dialog != nullptr;
         };
-        if (waitFor(updateDialog)) {
-            take(*dialog, u"update"_s);
-            shell.startGUIUpdateDownload();
-            waitFor([&dialog] {
-                const auto *bar = dialog->findChild<QProgressBar *>();
-                return bar && bar->value() > 0;
-            });
-            take(*dialog, u"update-download"_s);
+        if (!waitFor(updateDialog)) {
+            miss(u"update"_s);
+            return;
         }
+        take(*dialog, u"update"_s);
+        shell.startGUIUpdateDownload();
+        const auto downloads = [&dialog] {
+            const auto *bar = dialog->findChild<QProgressBar *>();
+            return bar && bar->value() > 0;
+        };
+        if (!waitFor(downloads)) {
+            miss(u"the download"_s);
+        }
+        take(*dialog, u"update-download"_s);
     }
 
     QString m_prefix;
+    bool m_complete = true;
     QTemporaryDir m_directory;
     SimDaemon m_daemon;
     SimServer m_server;
@@ -240,6 +270,10 @@ private:
 int main(int argc, char **argv)
 {
     const QTemporaryDir home;
+    if (!home.isValid()) {
+        std::fprintf(stderr, "Could not make a temporary folder\n");
+        return 1; // Lest the user's own preferences be changed.
+    }
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     QApplication::setStyle(u"Fusion"_s);
     const QApplication application(argc, argv);
@@ -264,7 +298,10 @@ int main(int argc, char **argv)
     }
 
     const QString folder = parser.value(u"out"_s);
-    QDir().mkpath(folder);
+    if (!QDir().mkpath(folder)) {
+        std::fprintf(stderr, "Could not make the folder for the pictures\n");
+        return 1;
+    }
     using Tour = Photographer::Tour;
     bool ok = Photographer(u"normal"_s, folder + u"/normal-"_s).run(Tour::ConnectedPages);
     for (const auto *scenario :

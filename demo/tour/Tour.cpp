@@ -46,8 +46,11 @@ bool Tour::run(const QStringList &arguments)
     QElapsedTimer elapsed;
     elapsed.start();
     // Pictures of an earlier walk would be mistaken for those of this one.
-    QDir(m_pictures).removeRecursively();
-    QDir().mkpath(m_pictures);
+    QDir pictures(m_pictures);
+    for (const QString &name : pictures.entryList({u"[0-9][0-9]-*.png"_s}, QDir::Files)) {
+        pictures.remove(name);
+    }
+    pictures.mkpath(u"."_s);
     start(arguments);
     signIn();
     connectAndCancel();

@@ -64,7 +64,6 @@ QProcessEnvironment TourDaemon::clientEnvironment() const
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"VANTU_DEMO_DIRECTORY"_s, m_directory.path());
     environment.insert(u"VANTU_DEMO_DAEMON_PID"_s, QString::number(m_process.processId()));
-    environment.insert(u"VANTU_DEMO_KEEP_DAEMON"_s, u"1"_s);
     // The name by which a second launch finds the first lives there: other demonstrations
     // of this machine are none of this tour's business.
     environment.insert(u"TMPDIR"_s, m_directory.path());

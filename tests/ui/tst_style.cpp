@@ -298,7 +298,7 @@ void TestStyle::followsTheDesktop()
                dialog.palette().color(QPalette::Window) == QColor(palette.windowBg) &&
                dialog.styleSheet().contains(palette.windowBg);
     };
-    if constexpr (!qtcompat::kHasColorSchemeHint) {
+    if (qtcompat::colorSchemeHint() == Unknown) {
         QTRY_VERIFY(shows(Dark));
         for (const auto &[value, scheme] : {std::pair(0U, Unknown), {2U, Light}, {7U, Unknown}}) {
             portal.set(value);

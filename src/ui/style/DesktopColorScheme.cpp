@@ -17,9 +17,8 @@ constexpr int kDarkBelowLightness = 128;
 DesktopColorScheme::DesktopColorScheme(QObject *parent)
     : QObject(parent)
 {
-    if (qtcompat::kHasColorSchemeHint) {
-        qtcompat::onColorSchemeHintChanged(this, &DesktopColorScheme::refresh);
-    } else {
+    qtcompat::onColorSchemeHintChanged(this, &DesktopColorScheme::refresh);
+    if (qtcompat::colorSchemeHint() == ColorScheme::Unknown) {
         askPortal();
     }
     m_current = read();
@@ -65,8 +64,8 @@ void DesktopColorScheme::refresh()
 
 ColorScheme DesktopColorScheme::read() const
 {
-    if (qtcompat::kHasColorSchemeHint) {
-        return qtcompat::colorSchemeHint();
+    if (const ColorScheme hint = qtcompat::colorSchemeHint(); hint != ColorScheme::Unknown) {
+        return hint;
     }
     if (m_portalScheme) {
         return *m_portalScheme;

@@ -15,10 +15,7 @@
 namespace qtcompat {
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
-/// Whether Qt itself tells the desktop's colour scheme.
-inline constexpr bool kHasColorSchemeHint = true;
-
-/// The scheme as Qt tells it; Unknown where it can't.
+/// The desktop's colour scheme as Qt tells it; Unknown where it can't.
 inline ColorScheme colorSchemeHint()
 {
     switch (QGuiApplication::styleHints()->colorScheme()) {
@@ -40,8 +37,6 @@ void onColorSchemeHintChanged(Receiver *receiver, void (Receiver::*slot)())
                      slot);
 }
 #else
-inline constexpr bool kHasColorSchemeHint = false;
-
 inline ColorScheme colorSchemeHint()
 {
     return ColorScheme::Unknown;

@@ -69,9 +69,7 @@ NotificationHost::NotificationHost(QWidget &parent, QWidget *below)
     m_hideTimer->setSingleShot(true);
     connect(m_hideTimer, &QTimer::timeout, this, &QWidget::hide);
     parent.installEventFilter(this);
-    if (below != nullptr) {
-        below->installEventFilter(this);
-    }
+    follow(below);
     hide();
 }
 
@@ -103,8 +101,16 @@ void NotificationHost::build()
 void NotificationHost::keepClearOf(QWidget &widget)
 {
     m_keepClear.append(&widget);
-    widget.installEventFilter(this);
+    follow(&widget);
     place();
+}
+
+void NotificationHost::follow(QWidget *widget)
+{
+    // What scrolls is the content that a widget lies in, and itself stays where it is in there.
+    for (; widget != nullptr && widget != parentWidget(); widget = widget->parentWidget()) {
+        widget->installEventFilter(this);
+    }
 }
 
 void NotificationHost::showMessage(const QString &message, const QString &kind, int timeoutMs)

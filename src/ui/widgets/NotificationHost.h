@@ -53,6 +53,7 @@ protected:
 
 private:
     void build();
+    void follow(QWidget *widget);
     void place();
 
     QPointer<QWidget> m_below;
