@@ -4,6 +4,7 @@
 #include "SimFiles.h"
 
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 
@@ -31,7 +32,8 @@ bool isRule(const QString &line)
         return SimAddress::isHostName(value);
     }
     if (colon > 0 && form == "keyword"_L1) {
-        return !value.isEmpty() && !value.contains(QRegularExpression(u"\\s"_s));
+        static const QRegularExpression blank(u"\\s"_s);
+        return !value.isEmpty() && !value.contains(blank);
     }
     if (colon > 0 && form == "regexp"_L1) {
         return !value.isEmpty() && QRegularExpression(value).isValid();
@@ -71,11 +73,12 @@ SimReply SimSplit::importRules(const QString &kind, const QString &content, bool
         return SimReply::error(400, u"unknown rule kind \"%1\""_s.arg(kind));
     }
     QStringList items;
+    QSet<QString> known; // A search of the list would hold up all other requests.
     int number = 0;
     for (const QString &raw : content.split(u'\n')) {
         ++number;
         const QString line = raw.trimmed();
-        if (line.isEmpty() || isComment(line) || items.contains(line)) {
+        if (line.isEmpty() || isComment(line) || known.contains(line)) {
             continue;
         }
         if (!isRule(line)) {
@@ -83,6 +86,7 @@ SimReply SimSplit::importRules(const QString &kind, const QString &content, bool
                 400, u"line %1: not a rule: %2"_s.arg(QString::number(number), line.left(80)));
         }
         items.append(line);
+        known.insert(line);
     }
     const bool changed = items != m_rules.value(kind);
     m_rules.insert(kind, items);

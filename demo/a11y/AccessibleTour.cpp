@@ -174,8 +174,11 @@ bool AccessibleTour::typeInto(const QString &field, const QString &text)
     };
     const auto isReady = [&] {
         const auto at = found();
-        return at && at->states().contains("editable"_L1) && (at->focus(), true) &&
-               at->states().contains("focused"_L1) && at->selectText();
+        if (!at || !at->states().contains("editable"_L1)) {
+            return false;
+        }
+        at->focus();
+        return at->states().contains("focused"_L1) && at->selectText();
     };
     if (!until(isReady)) {
         return fail(u"\"%1\" doesn't take the keyboard"_s.arg(field));

@@ -75,7 +75,8 @@ struct Visitor : Person
         const bool dialog = !scene.button.isEmpty();
         bool there = desk.poll(scene.tag == "signing in"_L1 ? kNobody : kSplit) &&
                      QTest::qWaitFor([this] { return desk.isIdle(); }) &&
-                     (!dialog || press(scene.button)) && QTest::qWaitFor([this, dialog] {
+                     (!dialog || QTest::qWaitFor([&] { return press(scene.button); })) &&
+                     QTest::qWaitFor([this, dialog] {
                          const QWidget *active = QApplication::activeWindow();
                          return active && (active != desk.window()) == dialog;
                      });

@@ -312,7 +312,7 @@ private Q_SLOTS:
         const auto fetched = [&p] {
             p.desk.daemon.clearRequests();
             p.desk.shell().pollWindowNodePing();
-            return p.desk.poll() && p.desk.poll() && p.desk.count("GET /v1/nodes") > 0;
+            return p.desk.poll() && p.desk.count("GET /v1/nodes") > 0;
         };
         for (const int key : {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_F, Qt::Key_W}) {
             p.ctrl(key);

@@ -61,14 +61,9 @@ struct Desk
     {
         daemon.setDefault("GET /v1/status", answer);
         QSignalSpy polled(&tray, &VantuTrayApp::statusPolled);
-        // An answer under way may still be the old one.
-        for (int polls = 0; polls < 2; ++polls) {
-            tray.refreshStatus();
-            if (!polled.wait()) {
-                return false;
-            }
-        }
-        return true;
+        tray.pollSoon(); // Drops an answer under way, which may still be the old one.
+        tray.refreshStatus();
+        return polled.wait();
     }
     /// No status comes any more, so that a notification stays to be read.
     void holdPolls() { daemon.setDefault("GET /v1/status", heldJson(status("held"))); }

@@ -191,6 +191,16 @@ void TestWidgets::elides()
     QCOMPARE(label.heightForWidth(width * 2 / 3), 2 * line);
     grab(label, width * 2 / 3);
     QVERIFY(!label.isElided());
+    // Lines stay lines, each read its own way; only what is too much for the last is joined.
+    label.setText(u"\u05d0\n\u05d0 ends.\nends.\n"_s);
+    label.setMaximumLines(3);
+    label.resize(width, 3 * line);
+    ElidedLabel third(u"ends."_s);
+    third.setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(label.grab().toImage().copy(0, 2 * line, width, line), grab(third, width));
+    label.setMaximumLines(2);
+    QCOMPARE(label.heightForWidth(width), 2 * line);
+    QVERIFY(!label.isElided());
 }
 
 void TestWidgets::cardIsOneButton()
@@ -264,7 +274,9 @@ void TestWidgets::noticeKeepsItsPlace()
     QWidget window;
     QWidget title(&window);
     title.setGeometry(30, 20, 100, 40);
-    QWidget button(&window);
+    QWidget page(&window);
+    page.resize(700, 500);
+    QWidget button(&page);
     button.setGeometry(0, 120, 700, 40);
     NotificationHost host(window, &title);
     host.keepClearOf(button);
@@ -275,6 +287,8 @@ void TestWidgets::noticeKeepsItsPlace()
     host.showMessage(u"long words "_s.repeated(80), {}, 0);
     QCOMPARE(host.geometry().topLeft(), QPoint(90, 168)); // Below the button.
     QCOMPARE(host.width(), 520);
+    page.move(0, -10); // Scrolled
+    QCOMPARE(host.y(), 158);
     button.hide();
     QCOMPARE(host.y(), 68);
     window.resize(300, 500);

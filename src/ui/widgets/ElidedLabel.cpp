@@ -4,8 +4,8 @@
 
 #include <QFontMetrics>
 #include <QHelpEvent>
+#include <QList>
 #include <QPainter>
-#include <QStringList>
 #include <QStyle>
 #include <QTextLayout>
 #include <QToolTip>
@@ -14,55 +14,72 @@
 
 namespace {
 
+constexpr QChar kLineBreak{QChar::LineSeparator}; // What QTextLayout breaks lines at.
+
+/// A line as it is painted.
+struct Line
+{
+    QString text;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
+};
+
 /// A text as it is painted.
 struct Shown
 {
-    QStringList lines;
+    QList<Line> lines;
     bool cut = false;
 };
 
-Qt::LayoutDirection readingDirection(const QLabel &label)
+/// How what begins at `start` is read: like all that stands between the same two line breaks.
+Qt::LayoutDirection directionAt(const QString &text, qsizetype start, const QLabel &label)
 {
-    return plaintext::readingDirection(label.text(), label.layoutDirection());
+    const QString paragraph =
+        text.left(start).section(kLineBreak, -1) + text.mid(start).section(kLineBreak, 0, 0);
+    return plaintext::readingDirection(paragraph, label.layoutDirection());
 }
 
-/// `text` cut off at the right end in a left-to-right layout, else at the left end: the end
+/// `line` cut off at the right end in a left-to-right layout, else at the left end: the end
 /// of all text but that which runs against the layout. The last of several lines is cut off
 /// where reading stops, lest the middle of the text be lost.
-QString elided(const QString &text, const QLabel &label, int width, bool lastOfSeveral)
+QString elided(const Line &line, const QLabel &label, int width, bool lastOfSeveral)
 {
-    const bool against = readingDirection(label) != label.layoutDirection();
-    const bool cutStart = against && !lastOfSeveral;
-    return label.fontMetrics().elidedText(text, cutStart ? Qt::ElideLeft : Qt::ElideRight, width);
+    const bool cutStart = line.direction != label.layoutDirection() && !lastOfSeveral;
+    return label.fontMetrics().elidedText(line.text, cutStart ? Qt::ElideLeft : Qt::ElideRight,
+                                          width);
 }
 
 Shown breakUp(const QLabel &label, int width, int maximumLines)
 {
-    QString rest = label.text();
-    rest.replace(u'\n', u' ').replace(u'\r', u' ');
+    const bool several = maximumLines > 1;
+    QString text = label.text().trimmed();
+    text.replace(u'\r', u' ').replace(u'\n', several ? kLineBreak : QChar{u' '});
     Shown shown;
-    if (maximumLines > 1) {
-        QTextLayout layout(rest, label.font());
+    qsizetype start = 0;
+    if (several) {
+        QTextLayout layout(text, label.font());
         QTextOption option;
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         layout.setTextOption(option);
         layout.beginLayout();
-        int start = 0;
         while (shown.lines.size() < maximumLines - 1) {
             QTextLine line = layout.createLine();
             if (!line.isValid()) {
                 break;
             }
             line.setLineWidth(width);
-            shown.lines += rest.mid(line.textStart(), line.textLength()).trimmed();
-            start = line.textStart() + line.textLength();
+            shown.lines +=
+                Line{text.mid(start, line.textLength()).trimmed(), directionAt(text, start, label)};
+            start += line.textLength();
         }
         layout.endLayout();
-        rest = rest.mid(start);
     }
-    if (!rest.isEmpty() || shown.lines.isEmpty()) {
-        shown.lines += elided(rest, label, width, maximumLines > 1);
-        shown.cut = shown.lines.constLast() != rest;
+    // What is left stands on one line, whatever it is.
+    Line rest{text.mid(start).replace(kLineBreak, u' ').trimmed(), directionAt(text, start, label)};
+    if (!rest.text.isEmpty() || shown.lines.isEmpty()) {
+        const QString whole = rest.text;
+        rest.text = elided(rest, label, width, several);
+        shown.cut = rest.text != whole;
+        shown.lines += rest;
     }
     return shown;
 }
@@ -122,7 +139,7 @@ void ElidedLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     drawFrame(&painter);
     const QRect area = contentsRect();
-    const QStringList lines = breakUp(*this, area.width(), m_maximumLines).lines;
+    const QList<Line> lines = breakUp(*this, area.width(), m_maximumLines).lines;
     const int lineHeight = fontMetrics().lineSpacing();
     const QSize block(area.width(), lineHeight * static_cast<int>(lines.size()));
     QRect place =
@@ -132,11 +149,11 @@ void ElidedLabel::paintEvent(QPaintEvent *)
     const auto side = QStyle::visualAlignment(layoutDirection(), alignment());
     const int flags =
         static_cast<int>((side & Qt::AlignHorizontal_Mask) | Qt::AlignAbsolute | Qt::AlignTop) |
-        Qt::TextSingleLine |
-        (readingDirection(*this) == Qt::RightToLeft ? Qt::TextForceRightToLeft
-                                                    : Qt::TextForceLeftToRight);
-    for (const QString &line : lines) {
-        style()->drawItemText(&painter, place, flags, palette(), isEnabled(), line,
+        Qt::TextSingleLine;
+    for (const Line &line : lines) {
+        const int reading =
+            line.direction == Qt::RightToLeft ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+        style()->drawItemText(&painter, place, flags | reading, palette(), isEnabled(), line.text,
                               foregroundRole());
         place.translate(0, lineHeight);
     }

@@ -17,8 +17,9 @@ public:
     explicit ElidedLabel(QWidget *parent = nullptr);
     explicit ElidedLabel(const QString &text, QWidget *parent = nullptr);
 
-    /// One line unless set. With more, the text wraps, only the last line is elided, and
-    /// the size hint keeps room for all of them, so that nothing jumps as texts change.
+    /// One line unless set. With more, the text wraps and is broken where it says so, only
+    /// the last line is elided, and the size hint keeps room for all of them, so that
+    /// nothing jumps as texts change.
     void setMaximumLines(int lines);
 
     QSize sizeHint() const override;
