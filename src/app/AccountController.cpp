@@ -99,7 +99,6 @@ void AccountController::handleLogin(const RuntimeInfo &info, const QString &erro
     }
     storeRuntime(info);
     fetchUser();
-    Q_EMIT accountChanged();
 }
 
 void AccountController::handleLogout(quint64 requestId, const RuntimeInfo &info,
@@ -119,9 +118,6 @@ void AccountController::handleLogout(quint64 requestId, const RuntimeInfo &info,
         storeRuntime(info);
     }
     Q_EMIT logoutEnded(requestId, info, failure);
-    if (failure.isEmpty()) {
-        Q_EMIT accountChanged();
-    }
 }
 
 void AccountController::handleUser(const UserInfo &user, const QString &error)

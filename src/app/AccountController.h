@@ -59,8 +59,6 @@ Q_SIGNALS:
     void logoutStarted(quint64 requestId, OperationOrigin origin);
     /// `failure` is the text for the user, empty on success.
     void logoutEnded(quint64 requestId, const RuntimeInfo &info, const QString &failure);
-    /// Another account, or none, is signed in now.
-    void accountChanged();
 
 private:
     bool changeAllowed(OperationOrigin origin);

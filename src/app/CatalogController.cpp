@@ -4,6 +4,7 @@
 #include "ControlProtocol.h"
 #include "NoticeSink.h"
 #include "RequestLink.h"
+#include "RuntimeFacts.h"
 #include "ServiceCompatibility.h"
 #include "ShellText.h"
 
@@ -52,7 +53,18 @@ void CatalogController::fetchNodes()
 
 void CatalogController::fetchGroups()
 {
+    m_groupsMissed = false;
     m_link.send(ControlRequest::FetchNodeGroups);
+}
+
+void CatalogController::fetchMissed()
+{
+    if (m_nodesMissed && !isFetchingNodes()) {
+        fetchNodes();
+    }
+    if (m_groupsMissed && !m_link.isPending(ControlRequest::FetchNodeGroups)) {
+        m_link.send(ControlRequest::FetchNodeGroups);
+    }
 }
 
 void CatalogController::refresh()
@@ -143,9 +155,14 @@ void CatalogController::noteRuntime(const RuntimeInfo &runtime)
     const bool refreshing = runtime.catalogRefresh == wire::kCatalogRefreshing;
     const bool ended = m_daemonRefreshing && !refreshing;
     m_daemonRefreshing = refreshing;
+    bool otherAccount = false;
+    if (!runtime.authState.trimmed().isEmpty()) {
+        const bool signedIn = facts::isSignedIn(runtime);
+        otherAccount = signedIn != std::exchange(m_signedIn, signedIn).value_or(signedIn);
+    }
     // The end of a refresh that nobody watches: the daemon's own, or one that
     // another client asked for. A running watch fetches by itself.
-    if (ended && !m_watching) {
+    if (otherAccount || (ended && !m_watching)) {
         fetch();
     }
 }
@@ -160,10 +177,13 @@ void CatalogController::handleNodes(quint64 requestId, const NodesInfo &nodes, c
     if (!error.isEmpty()) {
         if (wasRefresh) {
             m_notices.error(error, ShellText::tr("Could not refresh locations"), Page::Locations);
+        } else {
+            m_nodesMissed = true;
         }
         return;
     }
     m_held = true;
+    m_nodesMissed = false;
     m_state.setNodes(nodes);
     if (wasRefresh) {
         m_state.startNodesRefreshCooldown();
@@ -173,9 +193,10 @@ void CatalogController::handleNodes(quint64 requestId, const NodesInfo &nodes, c
 void CatalogController::handleNodeGroups(const NodeGroupsInfo &groups, const QString &error)
 {
     if (error.isEmpty()) {
+        m_groupsMissed = false;
         m_state.setNodeGroups(groups);
-    } else {
+        Q_EMIT groupsReceived();
+    } else if (!std::exchange(m_groupsMissed, true)) {
         m_notices.error(error, ShellText::tr("Could not refresh location groups"));
     }
-    Q_EMIT groupsAnswered();
 }

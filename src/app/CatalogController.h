@@ -7,14 +7,16 @@
 #include <QTimer>
 
 #include <chrono>
+#include <optional>
 
 class AppState;
 class NoticeSink;
 class RequestLink;
 class ServiceCompatibility;
 
-/// Keeps the catalogue of places fresh: fetches it, asks the daemon to refresh it,
-/// and watches the status while a refresh runs, whoever began it.
+/// Keeps the catalogue of places fresh: fetches it, again for whoever signs in or out,
+/// asks the daemon to refresh it, and watches the status while a refresh runs, whoever
+/// began it.
 class CatalogController final : public QObject
 {
     Q_OBJECT
@@ -33,6 +35,9 @@ public:
     void fetch();
     void fetchNodes();
     void fetchGroups();
+    /// Asks quietly for nodes and groups that could not be had; to be called whenever the
+    /// daemon answered.
+    void fetchMissed();
     /// Asks the daemon to refresh the catalogue, unless one did so lately.
     void refresh();
     /// Watches the status until the daemon's refresh is over.
@@ -52,8 +57,8 @@ public:
     void handleNodeGroups(const NodeGroupsInfo &groups, const QString &error);
 
 Q_SIGNALS:
-    /// The groups were answered, well or not.
-    void groupsAnswered();
+    /// The groups are those of now.
+    void groupsReceived();
     /// A refresh was sent, or the last one was answered.
     void refreshingChanged(bool refreshing);
 
@@ -75,4 +80,7 @@ private:
     bool m_daemonRefreshing = false;
     bool m_announce = false;
     bool m_held = false;
+    bool m_nodesMissed = false;
+    bool m_groupsMissed = false;
+    std::optional<bool> m_signedIn; ///< As far as the status told.
 };

@@ -78,7 +78,7 @@ void ConnectController::cancel(OperationOrigin origin)
         }
         // The disconnect decides from now on: it undoes whatever the connect achieved, and waits as
         // long as that takes.
-        begin(Kind::Cancelling, m_origin,
+        begin(Kind::Cancelling, origin,
               m_parts.link.sendWithTimeout(ControlRequest::DisconnectRuntime, 0), m_label);
         return;
     case Kind::None:
@@ -137,7 +137,8 @@ void ConnectController::finish(quint64 requestId, const RuntimeInfo &info, const
         m_parts.state.setRuntime(info);
     }
     if (!failure.isEmpty() && m_origin == OperationOrigin::Window) {
-        m_parts.notices.error(failure, failure);
+        m_parts.notices.error(failure, failure,
+                              isConnect(kind) ? std::optional(Page::Vpn) : std::nullopt);
     }
     Q_EMIT ended(kind, requestId, info, failure);
 }

@@ -53,6 +53,12 @@ public:
 
     explicit ConnectController(Parts parts, QObject *parent = nullptr);
 
+    /// It leads into a connection, rather than out of one.
+    static bool isConnect(Kind kind)
+    {
+        return kind == Kind::ConnectRuntime || kind == Kind::ConnectNode ||
+               kind == Kind::ConnectSmart;
+    }
     bool isBusy() const { return m_kind != Kind::None; }
     ConnectProgress progress() const;
 

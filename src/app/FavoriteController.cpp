@@ -20,7 +20,7 @@ FavoriteController::FavoriteController(RequestLink &link, AppState &state, Notic
     , m_compatibility(compatibility)
     , m_catalog(catalog)
 {
-    connect(&catalog, &CatalogController::groupsAnswered, this, &FavoriteController::dropAccepted);
+    connect(&catalog, &CatalogController::groupsReceived, this, &FavoriteController::dropAccepted);
 }
 
 void FavoriteController::setFavorite(const QString &nodeID, bool favorite)

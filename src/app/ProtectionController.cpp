@@ -47,6 +47,8 @@ void ProtectionController::sendMode(const ModeInfo &mode)
 
 void ProtectionController::sendKillSwitchEnabled(bool enabled)
 {
+    m_requestedKillSwitch = {};
+    m_requestedKillSwitch.enabled = enabled;
     setChange(ControlRequest::SetKillSwitchEnabled);
     m_parts.link.send(ControlRequest::SetKillSwitchEnabled, enabled);
 }
@@ -62,6 +64,7 @@ void ProtectionController::setMode(const ModeInfo &mode)
 void ProtectionController::setLocalNetwork(const QString &value)
 {
     if (changeAllowed()) {
+        m_requestedMode = moderequest::localNetwork(value);
         setChange(ControlRequest::SetLocalNetworkPreference);
         m_parts.link.send(ControlRequest::SetLocalNetworkPreference, value);
     }
@@ -70,6 +73,7 @@ void ProtectionController::setLocalNetwork(const QString &value)
 void ProtectionController::setSystemProxy(const QString &value)
 {
     if (changeAllowed()) {
+        m_requestedMode = moderequest::systemProxy(value);
         setChange(ControlRequest::SetSystemProxyPreference);
         m_parts.link.send(ControlRequest::SetSystemProxyPreference, value);
     }
@@ -85,6 +89,8 @@ void ProtectionController::setKillSwitchEnabled(bool enabled)
 void ProtectionController::setKillSwitchMode(const QString &mode)
 {
     if (changeAllowed()) {
+        m_requestedKillSwitch = {};
+        m_requestedKillSwitch.mode = mode;
         setChange(ControlRequest::SetKillSwitchMode);
         m_parts.link.send(ControlRequest::SetKillSwitchMode, mode);
     }
@@ -160,7 +166,7 @@ void ProtectionController::handleMode(ControlRequest request, const ModeInfo &mo
         runtime.mode = mode;
         m_parts.state.setRuntime(runtime);
     }
-    if (request == ControlRequest::SetMode && !moderequest::isShownBy(m_requestedMode, mode)) {
+    if (!moderequest::isShownBy(m_requestedMode, mode)) {
         m_parts.notices.error({}, failure, page);
     } else if (enableNext) {
         m_enablePending = false;
@@ -173,13 +179,16 @@ void ProtectionController::handleMode(ControlRequest request, const ModeInfo &mo
 void ProtectionController::handleKillSwitch(ControlRequest request, const KillSwitchInfo &info,
                                             const QString &error)
 {
-    const bool isChange = request != ControlRequest::FetchKillSwitch;
-    if (error.isEmpty()) {
+    const bool failed = !error.isEmpty();
+    if (!failed) {
         m_parts.state.setKillSwitch(info);
-    } else if (isChange) {
-        m_parts.notices.error(error, ShellText::tr("Could not update kill switch"), Page::Settings);
     }
-    if (isChange) {
-        setChange(std::nullopt);
+    if (request == ControlRequest::FetchKillSwitch) {
+        return; // A read that failed is the poll's business, which soon reads again.
     }
+    if (failed || !moderequest::isShownBy(m_requestedKillSwitch, info)) {
+        m_parts.notices.error(failed ? error : info.lastError,
+                              ShellText::tr("Could not update kill switch"), Page::Settings);
+    }
+    setChange(std::nullopt);
 }

@@ -78,5 +78,7 @@ private:
     std::optional<ControlRequest> m_change;
     bool m_enableAfterMode = false; ///< The running mode change is the first of two steps.
     bool m_enablePending = false;   ///< The user is picking a VPN mode.
+    // What the running change asked for.
     ModeInfo m_requestedMode;
+    KillSwitchInfo m_requestedKillSwitch;
 };

@@ -77,6 +77,7 @@ bool SettingsController::finish(const QString &error, const QString &failure)
 {
     setBusy(false);
     if (!error.isEmpty()) {
+        m_outdated = true;
         m_notices.error(error, failure, Page::Settings);
     }
     return error.isEmpty();
@@ -96,6 +97,18 @@ void SettingsController::fetchConfigPaths(bool tellFailure)
 {
     m_tellPathsFailure = m_tellPathsFailure || tellFailure;
     m_link.send(ControlRequest::FetchConfigPaths);
+}
+
+void SettingsController::fetchOutdated()
+{
+    const QString told = m_state.runtime().apiURL;
+    if (std::exchange(m_toldAPIURL, told).value_or(told) != told) {
+        m_outdated = true;
+    }
+    if (m_outdated && !m_busy) {
+        m_outdated = false;
+        fetch(false);
+    }
 }
 
 void SettingsController::setAPIURL(const QString &apiURL)
@@ -156,15 +169,19 @@ void SettingsController::openLogs()
 void SettingsController::handleAPIURL(ControlRequest request, const APIURLConfigInfo &info,
                                       const QString &error)
 {
-    if (request == ControlRequest::FetchAPIURLConfig) {
-        if (error.isEmpty()) {
-            m_state.setAPIURLConfig(info);
-        }
+    const bool isRead = request == ControlRequest::FetchAPIURLConfig;
+    if (!isRead) {
+        m_link.forget(ControlRequest::FetchAPIURLConfig);
+    }
+    if (isRead ? !error.isEmpty() : !finish(error, {})) {
         return;
     }
-    m_link.forget(ControlRequest::FetchAPIURLConfig);
-    if (finish(error, {})) {
-        m_state.setAPIURLConfig(info);
+    // A read finds what was changed elsewhere, or later than anybody waited for.
+    const bool changed =
+        !isRead || (m_serviceKnown && info.apiURL != m_state.apiURLConfig().apiURL);
+    m_serviceKnown = true;
+    m_state.setAPIURLConfig(info);
+    if (changed) {
         Q_EMIT serviceChanged();
     }
 }

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class AppState;
 class NoticeSink;
 class ServiceCompatibility;
@@ -30,6 +32,10 @@ public:
     void fetch(bool tellFailure);
     /// Reads where the daemon keeps its files.
     void fetchConfigPaths(bool tellFailure);
+    /// Reads again, quietly, what may be another than is held: a change that failed may
+    /// have been made all the same, and the status may name another service. To be called
+    /// whenever the status came.
+    void fetchOutdated();
 
     void setAPIURL(const QString &apiURL);
     void resetAPIURL();
@@ -71,6 +77,9 @@ private:
     NoticeSink &m_notices;
     ServiceCompatibility &m_compatibility;
     bool m_busy = false;
+    bool m_outdated = false;
+    bool m_serviceKnown = false;
+    std::optional<QString> m_toldAPIURL; ///< By the status.
     bool m_tellPathsFailure = false;
     bool m_openLogsWhenKnown = false;
 };

@@ -52,19 +52,6 @@ Switches readSwitches(const QStringList &arguments)
             .autostart = arguments.contains(commandline::kAutostart)};
 }
 
-void setIdentity()
-{
-    QCoreApplication::setApplicationName(u"Vantu"_s);
-    QCoreApplication::setApplicationVersion(u"10.4.0+26101701"_s);
-    QCoreApplication::setOrganizationName(u"Vantu"_s);
-    QGuiApplication::setDesktopFileName(u"com.vantuvpn.vantu"_s);
-    QGuiApplication::setWindowIcon(embeddedIcon(u":/icons/app.png"_s));
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    // Remembered from the first call on: after an upgrade in place the running file
-    // no longer has the name that a restart needs.
-    QCoreApplication::applicationFilePath();
-}
-
 void reconcileAutostart(const GuiPreferences &preferences)
 {
     QString error;
@@ -197,6 +184,19 @@ void stayOutOfSavedSessions(const QApplication &application)
 
 } // namespace
 
+void setProgramIdentity()
+{
+    QCoreApplication::setApplicationName(u"Vantu"_s);
+    QCoreApplication::setApplicationVersion(u"10.4.0+26101701"_s);
+    QCoreApplication::setOrganizationName(u"Vantu"_s);
+    QGuiApplication::setDesktopFileName(u"com.vantuvpn.vantu"_s);
+    QGuiApplication::setWindowIcon(embeddedIcon(u":/icons/app.png"_s));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    // Remembered from the first call on: after an upgrade in place the running file
+    // no longer has the name that a restart needs.
+    QCoreApplication::applicationFilePath();
+}
+
 StartupResult runVantu(int argc, char **argv, const StartupOptions &options)
 {
     const LaunchToken ownToken = LaunchToken::fromEnvironment();
@@ -204,7 +204,7 @@ StartupResult runVantu(int argc, char **argv, const StartupOptions &options)
     // loaded first.
     QApplication::setStyle(u"Fusion"_s);
     const QApplication application(argc, argv);
-    setIdentity();
+    setProgramIdentity();
     stayOutOfSavedSessions(application);
     const Switches switches = readSwitches(QCoreApplication::arguments());
     GuiPreferences preferences;

@@ -19,5 +19,9 @@ struct StartupResult
     bool restarted = false;
 };
 
+/// Name, version and icon of the program, as the rest of it and the daemon are told them;
+/// once QApplication exists.
+void setProgramIdentity();
+
 /// The whole program, from the arguments to the exit status.
 StartupResult runVantu(int argc, char **argv, const StartupOptions &options = {});

@@ -54,10 +54,8 @@ void UpdateController::checkIfDue()
 
 void UpdateController::checkNow()
 {
+    m_asked = true;
     check();
-    if (!std::exchange(m_asked, true)) {
-        Q_EMIT checkingChanged(true);
-    }
 }
 
 void UpdateController::check()
@@ -69,14 +67,13 @@ void UpdateController::check()
     m_firstCheckPending = false;
     m_schedule.noteAttempt();
     m_parts.link.send(ControlRequest::CheckUpdate, m_schedule.version());
+    Q_EMIT checkingChanged(true);
 }
 
 void UpdateController::handleUpdate(const UpdateInfo &info, const QString &error)
 {
     const bool asked = std::exchange(m_asked, false);
-    if (asked) {
-        Q_EMIT checkingChanged(false);
-    }
+    Q_EMIT checkingChanged(false);
     if (error.isEmpty()) {
         store(info, asked);
     } else if (asked) {

@@ -78,7 +78,7 @@ public:
     qint64 secondsUntilDue() const { return m_schedule.secondsUntilDue(); }
 
 Q_SIGNALS:
-    /// A check that the user asked for is running.
+    /// A check is running, the user's or one by the schedule.
     void checkingChanged(bool checking);
     /// The user should see this release: show or raise the dialog.
     void offered(const UpdateInfo &info);

@@ -1,6 +1,5 @@
 #include "UpdateSchedule.h"
 
-#include "GuiPreferences.h"
 #include "UpdateFlow.h"
 
 #include <algorithm>
@@ -21,17 +20,16 @@ UpdateSchedule::UpdateSchedule(GuiPreferences &preferences, std::function<qint64
     : m_preferences(preferences)
     , m_now(std::move(nowSeconds))
     , m_version(std::move(version))
-    , m_forced(book().forceUpgrade)
+    , m_book(m_preferences.updateBookkeeping(m_version))
 {}
 
 qint64 UpdateSchedule::secondsUntilDue() const
 {
-    const UpdateBookkeeping current = book();
-    if (current.lastAttemptAt >= 1) {
-        return secondsLeft(current.lastAttemptAt, kRetrySeconds, m_now());
+    if (m_book.lastAttemptAt >= 1) {
+        return secondsLeft(m_book.lastAttemptAt, kRetrySeconds, m_now());
     }
-    if (current.lastSuccessfulCheckAt >= 1) {
-        return secondsLeft(current.lastSuccessfulCheckAt, kIntervalSeconds, m_now());
+    if (m_book.lastSuccessfulCheckAt >= 1) {
+        return secondsLeft(m_book.lastSuccessfulCheckAt, kIntervalSeconds, m_now());
     }
     return 0;
 }
@@ -39,44 +37,34 @@ qint64 UpdateSchedule::secondsUntilDue() const
 bool UpdateSchedule::isNewsworthy(const UpdateInfo &info) const
 {
     const qint64 number = updateflow::offeredVersionNum(info);
-    const UpdateBookkeeping current = book();
     // A release without a name is only shown to those who ask.
-    return number > 0 && (info.isForceUpgrade || number != current.lastNotifiedVersionNum ||
-                          secondsLeft(current.lastNotifiedAt, kIntervalSeconds, m_now()) == 0);
+    return number > 0 && (info.isForceUpgrade || number != m_book.lastNotifiedVersionNum ||
+                          secondsLeft(m_book.lastNotifiedAt, kIntervalSeconds, m_now()) == 0);
 }
 
 void UpdateSchedule::noteAttempt()
 {
-    UpdateBookkeeping current = book();
-    current.lastAttemptAt = m_now();
-    write(current);
+    m_book.lastAttemptAt = m_now();
+    save();
 }
 
 void UpdateSchedule::noteSuccess(bool forced)
 {
-    m_forced = forced;
-    UpdateBookkeeping current = book();
-    current.lastSuccessfulCheckAt = m_now();
+    m_book.lastSuccessfulCheckAt = m_now();
     // Every success is an attempt too; kept, it would hide the daily rule.
-    current.lastAttemptAt = 0;
-    current.forceUpgrade = forced;
-    write(current);
+    m_book.lastAttemptAt = 0;
+    m_book.forceUpgrade = forced;
+    save();
 }
 
 void UpdateSchedule::noteAnnounced(const UpdateInfo &info)
 {
-    UpdateBookkeeping current = book();
-    current.lastNotifiedAt = m_now();
-    current.lastNotifiedVersionNum = updateflow::offeredVersionNum(info);
-    write(current);
+    m_book.lastNotifiedAt = m_now();
+    m_book.lastNotifiedVersionNum = updateflow::offeredVersionNum(info);
+    save();
 }
 
-UpdateBookkeeping UpdateSchedule::book() const
+void UpdateSchedule::save()
 {
-    return m_preferences.updateBookkeeping(m_version);
-}
-
-void UpdateSchedule::write(const UpdateBookkeeping &book)
-{
-    m_preferences.setUpdateBookkeeping(m_version, book);
+    m_preferences.setUpdateBookkeeping(m_version, m_book);
 }

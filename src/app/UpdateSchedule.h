@@ -1,12 +1,12 @@
 #pragma once
 
+#include "GuiPreferences.h"
+
 #include <QString>
 #include <QtGlobal>
 
 #include <functional>
 
-class GuiPreferences;
-struct UpdateBookkeeping;
 struct UpdateInfo;
 
 /// The books about updates: when to look for one, whom it was announced to, and
@@ -30,7 +30,7 @@ public:
     /// Seconds until the next check is due, 0 when it is due now.
     qint64 secondsUntilDue() const;
     /// The last answer (of this process or an earlier one) demanded an update.
-    bool isForced() const { return m_forced; }
+    bool isForced() const { return m_book.forceUpgrade; }
     /// The user should be told of this release though nobody asked for it.
     bool isNewsworthy(const UpdateInfo &info) const;
 
@@ -39,11 +39,10 @@ public:
     void noteAnnounced(const UpdateInfo &info);
 
 private:
-    UpdateBookkeeping book() const;
-    void write(const UpdateBookkeeping &book);
+    void save();
 
     GuiPreferences &m_preferences;
     std::function<qint64()> m_now;
     QString m_version;
-    bool m_forced = false;
+    UpdateBookkeeping m_book; // In force also when it can't be saved, lest checks come in a row.
 };

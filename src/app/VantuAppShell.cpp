@@ -228,6 +228,7 @@ void VantuAppShell::publishActivity()
     activity.openingRenewal = m_account->isOpeningRenewal();
     activity.loadingSplitRules = m_splitRules->isLoading();
     activity.refreshingLocations = m_refreshingLocations;
+    activity.excludesConnect = m_tray->isBusy();
     m_windows->setActivity(activity);
 }
 
@@ -257,11 +258,8 @@ void VantuAppShell::handleConnectStarted(ConnectController::Kind kind, quint64 r
 void VantuAppShell::handleConnectEnded(ConnectController::Kind kind, quint64 requestId,
                                        const RuntimeInfo &info, const QString &failure)
 {
-    using Kind = ConnectController::Kind;
     m_windows->setConnectProgress(m_connection->progress());
-    const bool wasConnect =
-        kind == Kind::ConnectRuntime || kind == Kind::ConnectNode || kind == Kind::ConnectSmart;
-    if (wasConnect) {
+    if (ConnectController::isConnect(kind)) {
         if (failure.isEmpty()) {
             rememberConnectedNode(info);
         }

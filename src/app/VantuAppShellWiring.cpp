@@ -84,8 +84,13 @@ void VantuAppShell::connectTray()
     connect(tray, &Tray::chooseModeForKillSwitchRequested, this, &Shell::chooseModeForKillSwitch);
     connect(tray, &Tray::quitRequested, this, &Shell::quit);
     // Follows every change that the tray made itself.
-    connect(tray, &Tray::statusPolled, this,
-            [this] { m_protection->resumePendingKillSwitchEnable(); });
+    connect(tray, &Tray::statusPolled, this, [this](bool succeeded) {
+        m_protection->resumePendingKillSwitchEnable();
+        if (succeeded) {
+            m_catalog->fetchMissed();
+            m_settings->fetchOutdated();
+        }
+    });
 }
 
 void VantuAppShell::connectWindows()
@@ -121,6 +126,7 @@ void VantuAppShell::connectWindows()
     connectSettings();
     connect(windows, &Windows::recentConnectionsCleared, m_tray.get(),
             &VantuTrayApp::recentNodesChanged);
+    connect(windows, &Windows::connectRefused, m_notices.get(), &NoticeSink::pleaseWait);
     // Queued, because a window can't be closed for good while it refuses to close.
     connect(windows, &Windows::quitRequested, this, &Shell::quit, Qt::QueuedConnection);
     connect(windows, &Windows::forceUpdateExitRequested, this, &Shell::quit);
@@ -184,9 +190,6 @@ void VantuAppShell::connectConcerns()
             });
     connect(m_account.get(), &AccountController::logoutEnded, m_tray.get(),
             &VantuTrayApp::handleLogoutFinished);
-    connect(m_account.get(), &AccountController::accountChanged, m_catalog.get(),
-            &CatalogController::fetch);
-
     connect(m_account.get(), &AccountController::renewalLinkReady, m_windows.get(),
             &WindowController::openPrivateLink);
 

@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLoggingCategory>
+#include <QThread>
 
 #include <algorithm>
 
@@ -19,6 +20,9 @@ Q_LOGGING_CATEGORY(lcControl, "vantu.control", QtInfoMsg)
 
 constexpr QLatin1StringView kCanceled{"control request canceled"};
 constexpr QLatin1StringView kInvalidResponse{"invalid control response"};
+
+/// How long a daemon whose queue is full is left alone (ms).
+constexpr int kBusyDaemonRest = 50;
 
 /// What people are given to read at most, in UTF-16 units; a body may be a whole book.
 constexpr qsizetype kMaxErrorText = 1000;
@@ -118,7 +122,9 @@ bool Exchange::connectTo(const QString &socketName)
         if (m_socket.state() != QLocalSocket::ConnectingState) {
             break;
         }
-        m_socket.waitForConnected(sliceMs());
+        // Only a full queue leads here, for which the socket's own wait never sleeps.
+        QThread::msleep(static_cast<unsigned long>(std::min(kBusyDaemonRest, sliceMs())));
+        m_socket.waitForConnected(0);
     }
     m_errorText = isCanceled()
                       ? QString(kCanceled)

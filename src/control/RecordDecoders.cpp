@@ -71,8 +71,8 @@ UpdateInfo readUpdate(const QJsonObject &o)
     const QJsonObject latest = json::object(o, "latest"_L1);
     const QJsonObject download = json::object(latest, "download"_L1);
     const QJsonObject artifact = json::object(download, "recommended_artifact"_L1);
-
     UpdateInfo info;
+    info.known = true;
     info.platform = json::text(o, "platform"_L1);
     info.currentVersion = json::text(o, "current_version"_L1);
     info.currentVersionNum = json::real(o, "current_version_num"_L1);
@@ -299,8 +299,8 @@ SplitDNSInfo readSplitDNS(const QJsonObject &o)
 {
     const QJsonObject config = json::object(o, "config"_L1);
     const QJsonObject effective = json::object(o, "effective"_L1);
-
     SplitDNSInfo info;
+    info.known = true;
     info.path = json::text(o, "path"_L1);
     info.changed = json::flag(o, "changed"_L1);
     info.runtimeReloaded = json::flag(o, "runtime_reloaded"_L1);
@@ -318,6 +318,7 @@ SplitDNSInfo readSplitDNS(const QJsonObject &o)
 SplitRulesInfo readSplitRules(const QJsonObject &o)
 {
     SplitRulesInfo info;
+    info.known = true;
     info.dir = json::text(o, "dir"_L1);
     const QJsonObject files = json::object(o, "files"_L1);
     for (auto file = files.begin(); file != files.end(); ++file) {

@@ -21,6 +21,7 @@ struct SplitDNSInfo
     QStringList effectiveLocalDirectDNS;
     QString localDNSSource;
     bool autoCNDefault = false;
+    bool known = false; ///< It was decoded, though an answer may leave all else out.
 
     bool operator==(const SplitDNSInfo &) const = default;
 };
@@ -31,6 +32,7 @@ struct SplitRulesInfo
     QString dir;
     QHash<QString, QString> files;     ///< Kind to path.
     QHash<QString, QStringList> rules; ///< Kind to items.
+    bool known = false;                ///< It was decoded; who has no rules gets empty lists.
 
     bool operator==(const SplitRulesInfo &) const = default;
 };

@@ -27,6 +27,7 @@ struct UpdateInfo
     QString artifactURL;
     QString artifactSHA256;
     qint64 artifactSizeBytes = 0;
+    bool known = false; ///< It was decoded, though an answer without a release may be bare.
 
     bool operator==(const UpdateInfo &) const = default;
 };

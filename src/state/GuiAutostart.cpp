@@ -52,9 +52,11 @@ bool fail(QString *error, const QString &text)
 
 } // namespace
 
-GuiAutostart::GuiAutostart(const QString &configDirectory, const QString &executable)
+GuiAutostart::GuiAutostart(const QString &configDirectory, const QString &executable,
+                           const QString &flatpakMark)
     : m_configDirectory(configDirectory)
     , m_executable(executable)
+    , m_flatpakMark(flatpakMark)
 {}
 
 QString GuiAutostart::entryPath() const
@@ -81,7 +83,9 @@ bool GuiAutostart::reconcile(bool enabled, QString *error) const
 
     const QString executable = m_executable.isEmpty() ? QCoreApplication::applicationFilePath()
                                                       : QDir::cleanPath(m_executable.trimmed());
-    if (!isUsableExecutable(executable)) {
+    // A Flatpak's own path means nothing to the desktop, which doesn't look for the entry
+    // in there either.
+    if (!isUsableExecutable(executable) || QFile::exists(m_flatpakMark)) {
         return fail(error, tr("Could not resolve the Vantu executable for login startup."));
     }
     if (!QDir().mkpath(QFileInfo(path).path())) {

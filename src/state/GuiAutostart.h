@@ -10,10 +10,14 @@ class GuiAutostart final
     Q_DECLARE_TR_FUNCTIONS(GuiAutostart)
 
 public:
-    /// Both arguments replace what the environment gives: the configuration
-    /// directory (else XDG_CONFIG_HOME, else ~/.config) and the executable (else
-    /// the running program).
-    explicit GuiAutostart(const QString &configDirectory = {}, const QString &executable = {});
+    /// A file that stands in every Flatpak, and nowhere else.
+    static constexpr QLatin1StringView kFlatpakMark{"/.flatpak-info"};
+
+    /// All arguments replace what the environment gives: the configuration
+    /// directory (else XDG_CONFIG_HOME, else ~/.config), the executable (else
+    /// the running program), and the file by which a Flatpak is known.
+    explicit GuiAutostart(const QString &configDirectory = {}, const QString &executable = {},
+                          const QString &flatpakMark = kFlatpakMark);
 
     /// The entry's path.
     QString entryPath() const;
@@ -27,4 +31,5 @@ private:
 
     QString m_configDirectory;
     QString m_executable;
+    QString m_flatpakMark;
 };

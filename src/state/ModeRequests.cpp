@@ -164,19 +164,47 @@ SplitProfile withRegions(SplitProfile profile, const QStringList &regions)
     return profile;
 }
 
+ModeInfo localNetwork(const QString &value)
+{
+    ModeInfo mode;
+    mode.localNetwork = value;
+    return mode;
+}
+
+ModeInfo systemProxy(const QString &value)
+{
+    ModeInfo mode;
+    mode.systemProxy = value;
+    return mode;
+}
+
 bool isShownBy(const ModeInfo &request, const ModeInfo &answer)
 {
     const auto isShown = [](const QString &asked, const QString &shown) {
         return asked.isEmpty() || isSameWord(asked, shown);
     };
+    // Both stand for the same choice.
+    const QString systemProxy = facts::isWord(answer.systemProxy, wire::kSystemProxyLockOn)
+                                    ? QString(wire::kSystemProxyLock)
+                                    : answer.systemProxy;
     // The policy is compared by meaning, because a daemon may name a split in
     // its own way.
-    return isShown(request.transport, answer.transport) && isShown(request.region, answer.region) &&
+    return answer.known && isShown(request.transport, answer.transport) &&
+           isShown(request.region, answer.region) &&
+           isShown(request.localNetwork, answer.localNetwork) &&
+           isShown(request.systemProxy, systemProxy) &&
            (request.policy.isEmpty() || facts::isSplit(request) == facts::isSplit(answer)) &&
            (!request.splitProfile.present ||
             ::isShownBy(request.splitProfile, vantuVPNProfile(answer))) &&
            (!request.proxySplitProfile.present ||
             ::isShownBy(request.proxySplitProfile, proxyProfile(answer)));
+}
+
+bool isShownBy(const KillSwitchInfo &request, const KillSwitchInfo &answer)
+{
+    const bool isShown = request.mode.isEmpty() ? facts::isKillSwitchOn(answer) == request.enabled
+                                                : isSameWord(request.mode, answer.mode);
+    return answer.known && isShown;
 }
 
 } // namespace moderequest

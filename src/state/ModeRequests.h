@@ -4,9 +4,9 @@
 
 #include <QString>
 
-/// Builds the requests of mode changes. The daemon replaces a split profile as a
-/// whole and a request can't say "off" for a single member, so that each change
-/// sends the whole current profile with the one member changed.
+/// Builds the requests of mode changes, and judges the answers. The daemon replaces a
+/// split profile as a whole and a request can't say "off" for a single member, so that
+/// each change sends the whole current profile with the one member changed.
 namespace moderequest {
 
 ModeInfo autoMode();
@@ -38,8 +38,14 @@ SplitProfile withRegionToggled(SplitProfile profile, const QString &region);
 /// The profile with the regions in force replaced by `regions`.
 SplitProfile withRegions(SplitProfile profile, const QStringList &regions);
 
+/// What the change of a single preference asks for, to be compared with its answer.
+ModeInfo localNetwork(const QString &value);
+ModeInfo systemProxy(const QString &value);
+
 /// Whether the mode the daemon reports shows what `request` asked for; only the
 /// members that the request set are compared.
 bool isShownBy(const ModeInfo &request, const ModeInfo &answer);
+/// The same for the kill switch: its mode if the request names one, else on or off.
+bool isShownBy(const KillSwitchInfo &request, const KillSwitchInfo &answer);
 
 } // namespace moderequest

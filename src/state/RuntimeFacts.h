@@ -52,7 +52,7 @@ NodeEntry effectiveSelected(const RuntimeInfo &runtime, const NodesInfo &nodes);
 NodeEntry effectiveConnected(const RuntimeInfo &runtime, const NodesInfo &nodes);
 
 /// The kill switch: its own answers are the authority, the copy inside the
-/// status serves only until the first of them.
+/// status serves only while there is none.
 const KillSwitchInfo &effectiveKillSwitch(const AppState &state);
 
 /// The kill switch holds traffic back (on or lockdown).

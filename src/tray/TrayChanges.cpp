@@ -81,6 +81,8 @@ void TrayChanges::setKillSwitchEnabled(bool enabled)
         begin(ControlRequest::SetKillSwitchEnabled, TrayMenuText::disablingKillSwitch(),
               TrayMenuText::killSwitchDisabled());
     }
+    m_killSwitchRequest = {};
+    m_killSwitchRequest.enabled = enabled;
     m_link.send(ControlRequest::SetKillSwitchEnabled, enabled);
 }
 
@@ -89,6 +91,7 @@ void TrayChanges::setLocalNetwork(const QString &value)
     if (guardPasses()) {
         begin(ControlRequest::SetLocalNetworkPreference, TrayMenuText::updatingLocalNetwork(),
               TrayMenuText::updated());
+        m_modeRequest = moderequest::localNetwork(value);
         m_link.send(ControlRequest::SetLocalNetworkPreference, value);
     }
 }
@@ -98,6 +101,7 @@ void TrayChanges::setSystemProxy(const QString &value)
     if (guardPasses()) {
         begin(ControlRequest::SetSystemProxyPreference, TrayMenuText::updatingSystemProxy(),
               TrayMenuText::systemProxySetTo(labels::systemProxy(value)));
+        m_modeRequest = moderequest::systemProxy(value);
         m_link.send(ControlRequest::SetSystemProxyPreference, value);
     }
 }
@@ -180,15 +184,14 @@ void TrayChanges::takeMode(quint64 requestId, const ModeInfo &mode, const QStrin
         runtime.mode = mode;
         m_state.setRuntime(runtime);
     }
-    if (request != ControlRequest::SetMode) {
-        end(*request, errorMessage, TrayMenuText::operationFailed());
-        return;
+    const bool taken = errorMessage.isEmpty();
+    QString fallback = TrayMenuText::operationFailed();
+    if (request == ControlRequest::SetMode) {
+        fallback = taken ? QCoreApplication::translate("VantuAppShell", "Could not switch mode")
+                         : TrayMenuText::modeFailed();
     }
-    if (errorMessage.isEmpty() && !moderequest::isShownBy(m_modeRequest, mode)) {
-        // The daemon took the request and did something else.
-        m_successText = QCoreApplication::translate("VantuAppShell", "Could not switch mode");
-    }
-    end(*request, errorMessage, TrayMenuText::modeFailed());
+    // The daemon may have taken the request and done something else.
+    end(*request, taken && moderequest::isShownBy(m_modeRequest, mode), errorMessage, fallback);
 }
 
 void TrayChanges::takeKillSwitch(quint64 requestId, const KillSwitchInfo &info,
@@ -198,18 +201,25 @@ void TrayChanges::takeKillSwitch(quint64 requestId, const KillSwitchInfo &info,
     if (!request) {
         return;
     }
-    if (errorMessage.isEmpty()) {
+    const bool isChange = request == ControlRequest::SetKillSwitchEnabled;
+    const bool failed = !errorMessage.isEmpty();
+    if (!failed) {
         m_state.setKillSwitch(info);
+    } else if (!isChange && !m_poll.hasStatusFailed() && m_state.runtime().killSwitch.known) {
+        // The status that was read with it is younger than what is held.
+        m_state.setKillSwitch({});
     }
-    if (request == ControlRequest::SetKillSwitchEnabled) {
-        end(*request, errorMessage, TrayMenuText::killSwitchFailed());
+    if (isChange) {
+        end(*request, !failed && moderequest::isShownBy(m_killSwitchRequest, info),
+            failed ? errorMessage : info.lastError, TrayMenuText::killSwitchFailed());
     }
 }
 
-void TrayChanges::end(ControlRequest request, const QString &errorMessage, const QString &fallback)
+void TrayChanges::end(ControlRequest request, bool succeeded, const QString &errorMessage,
+                      const QString &fallback)
 {
     m_operations.end(busyKind(request));
     const bool blank = errorMessage.trimmed().isEmpty();
     const QString failure = blank ? fallback : errorMessage;
-    Q_EMIT ended(errorMessage.isEmpty() ? m_successText : failure);
+    Q_EMIT ended(succeeded ? m_successText : failure);
 }

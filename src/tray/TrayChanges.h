@@ -66,14 +66,17 @@ Q_SIGNALS:
 private:
     const ModeInfo &mode() const;
     void begin(ControlRequest request, const QString &progressText, const QString &successText);
-    /// The failure in the daemon's own words, or `fallback` where it gave none.
-    void end(ControlRequest request, const QString &errorMessage, const QString &fallback);
+    /// A failure is told in the daemon's own words, or as `fallback` where it gave none.
+    void end(ControlRequest request, bool succeeded, const QString &errorMessage,
+             const QString &fallback);
 
     AppState &m_state;
     RequestLink &m_link;
     TrayOperations &m_operations;
     TrayPoll &m_poll;
     TrayQuestions m_questions;
-    QString m_successText;  ///< Of the change under way.
-    ModeInfo m_modeRequest; ///< What the mode change under way asked for.
+    QString m_successText; ///< Of the change under way.
+    // What the change under way asked for.
+    ModeInfo m_modeRequest;
+    KillSwitchInfo m_killSwitchRequest;
 };

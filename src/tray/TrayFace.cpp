@@ -133,7 +133,8 @@ void TrayFace::fillNodes()
         m_plan = planTrayNodes(m_state.nodes(), m_state.nodeGroups());
         m_planOld = false;
     }
-    m_nodeMenu.show(m_plan, facts::effectiveSelected(m_state.runtime(), m_state.nodes()).id);
+    m_nodeMenu.show(m_plan, facts::effectiveSelected(m_state.runtime(), m_state.nodes()).id,
+                    m_shown.nodesHeld);
 }
 
 void TrayFace::fillRegions()

@@ -52,6 +52,7 @@ public:
 private:
     void deriveStatus();
     void deriveConnection();
+    QString nodesPlaceholder() const;
     void deriveNodes();
     void deriveSlots();
     void deriveModes();
@@ -163,6 +164,19 @@ void Derivation::deriveConnection()
     m_menu[TrayEntry::Disconnect].enabled = m_idle && m_connected;
 }
 
+/// What stands for the nodes, or for their groups, that are not held; may be empty.
+QString Derivation::nodesPlaceholder() const
+{
+    if (m_condition.nodesHeld) {
+        return m_condition.groupsFailed ? TrayMenuText::couldNotLoadGroups() : QString();
+    }
+    if (m_condition.nodesInFlight) {
+        return TrayMenuText::loadingNodes();
+    }
+    return m_condition.nodesFailed ? TrayMenuText::couldNotLoadNodes()
+                                   : TrayMenuText::nodesNotLoaded();
+}
+
 void Derivation::deriveNodes()
 {
     m_menu[TrayEntry::NodeMenu].enabled = m_idle;
@@ -181,9 +195,11 @@ void Derivation::deriveNodes()
     refresh.enabled = m_condition.daemonAvailable && m_condition.nodesHeld && !m_condition.busy &&
                       !m_condition.nodesInFlight && seconds == 0;
 
-    m_menu[TrayEntry::NodesPlaceholder].enabled = false;
-    m_menu[TrayEntry::NodesPlaceholder].visible =
-        m_condition.nodesInFlight && !m_condition.nodesHeld;
+    m_menu.nodesHeld = m_condition.nodesHeld;
+    TrayEntryState &placeholder = m_menu[TrayEntry::NodesPlaceholder];
+    placeholder.enabled = false;
+    placeholder.text = nodesPlaceholder();
+    placeholder.visible = !placeholder.text.isEmpty();
 }
 
 void Derivation::slot(TrayEntryState &entry, const RecentNode &node, const NodeEntry &current) const

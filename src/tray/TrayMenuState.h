@@ -84,6 +84,7 @@ struct TrayMenuState
 {
     std::array<TrayEntryState, kTrayEntryCount> entries;
     bool connectCancels = false; ///< The connect entry reads "Cancel".
+    bool nodesHeld = false;      ///< A node list without nodes is an empty one, rather than none.
     bool iconOn = false;
     QString toolTip;
 
@@ -112,6 +113,8 @@ struct TrayCondition
     bool connectCancellable = false;
     bool nodesHeld = false;     ///< Nodes were received at all, if only an empty list.
     bool nodesInFlight = false; ///< A request of nodes or node groups.
+    bool nodesFailed = false;   ///< The latest answer of nodes was an error.
+    bool groupsFailed = false;  ///< The same of node groups.
     bool refreshing = false;    ///< That request is the user's refresh.
     bool userInFlight = false;
     bool logsInFlight = false;

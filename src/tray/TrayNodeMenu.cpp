@@ -24,8 +24,9 @@ TrayNodeMenu::TrayNodeMenu(QMenu &menu, QAction &before, QObject *parent)
     m_menu.insertAction(&m_before, m_separator);
 }
 
-void TrayNodeMenu::show(const TrayNodePlan &plan, const QString &selectedId)
+void TrayNodeMenu::show(const TrayNodePlan &plan, const QString &selectedId, bool held)
 {
+    m_empty->setVisible(held && plan.groups.isEmpty());
     if (!m_built || plan != m_plan) {
         clear();
         m_plan = plan;
@@ -72,7 +73,6 @@ void TrayNodeMenu::rebuild()
         m_menu.insertMenu(m_empty, submenu);
         m_submenus << submenu;
     }
-    m_empty->setVisible(m_plan.groups.isEmpty());
     m_separator->setVisible(true);
     mark(m_selectedId, true);
 }

@@ -22,8 +22,8 @@ public:
     TrayNodeMenu(QMenu &menu, QAction &before, QObject *parent = nullptr);
 
     /// Shows the plan and marks the selected node. Builds anew only when the plan is
-    /// another one than shown.
-    void show(const TrayNodePlan &plan, const QString &selectedId);
+    /// another one than shown. A plan without nodes is told as such if they are `held`.
+    void show(const TrayNodePlan &plan, const QString &selectedId, bool held);
     /// Empties the group submenus, to give their memory back; show() fills them again.
     void release();
 

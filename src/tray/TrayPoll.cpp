@@ -137,7 +137,8 @@ void TrayPoll::takeNodes(quint64 requestId, const NodesInfo &nodes, const QStrin
     if (!m_link.take(requestId)) {
         return;
     }
-    if (errorMessage.isEmpty()) {
+    m_nodesFailed = !errorMessage.isEmpty();
+    if (!m_nodesFailed) {
         m_nodesHeld = true;
         m_state.setNodes(nodes);
         if (m_refreshing) {
@@ -156,7 +157,8 @@ void TrayPoll::takeNodeGroups(quint64 requestId, const NodeGroupsInfo &groups,
         return;
     }
     const bool refreshing = std::exchange(m_refreshing, false);
-    if (errorMessage.isEmpty()) {
+    m_groupsFailed = !errorMessage.isEmpty();
+    if (!m_groupsFailed) {
         m_groupsHeld = true;
         m_state.setNodeGroups(groups);
     } else if (refreshing) {
@@ -171,4 +173,16 @@ void TrayPoll::runtimeChanged(const RuntimeInfo &runtime)
         m_link.forget(ControlRequest::FetchUser);
         m_state.clearUser();
     }
+}
+
+void TrayPoll::nodesChanged()
+{
+    m_nodesHeld = true;
+    m_nodesFailed = false;
+}
+
+void TrayPoll::nodeGroupsChanged()
+{
+    m_groupsHeld = true;
+    m_groupsFailed = false;
 }

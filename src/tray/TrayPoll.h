@@ -55,6 +55,9 @@ public:
     const QString &statusError() const { return m_statusError; }
     /// Nodes were received at all, if only an empty list.
     bool areNodesHeld() const { return m_nodesHeld; }
+    /// The latest answer of nodes, or of node groups, was an error.
+    bool haveNodesFailed() const { return m_nodesFailed; }
+    bool haveGroupsFailed() const { return m_groupsFailed; }
     bool isCatalogueInFlight() const;
     /// The catalogue is under way because the user refreshes it.
     bool isRefreshing() const { return m_refreshing && isCatalogueInFlight(); }
@@ -68,8 +71,8 @@ public:
 
     // Changes of the store, whoever made them.
     void runtimeChanged(const RuntimeInfo &runtime);
-    void nodesChanged() { m_nodesHeld = true; }
-    void nodeGroupsChanged() { m_groupsHeld = true; }
+    void nodesChanged();
+    void nodeGroupsChanged();
 
 Q_SIGNALS:
     void statusAnswered(bool succeeded);
@@ -91,5 +94,7 @@ private:
     QString m_statusError;
     bool m_nodesHeld = false;
     bool m_groupsHeld = false;
+    bool m_nodesFailed = false;
+    bool m_groupsFailed = false;
     bool m_refreshing = false; ///< The catalogue requests under way are the user's refresh.
 };

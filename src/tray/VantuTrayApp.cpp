@@ -468,6 +468,8 @@ TrayCondition VantuTrayApp::condition() const
         .connectCancellable = m_operations.isConnectCancellable(),
         .nodesHeld = m_poll.areNodesHeld(),
         .nodesInFlight = m_poll.isCatalogueInFlight(),
+        .nodesFailed = m_poll.haveNodesFailed(),
+        .groupsFailed = m_poll.haveGroupsFailed(),
         .refreshing = m_poll.isRefreshing(),
         .userInFlight = m_link.isPending(ControlRequest::FetchUser),
         .logsInFlight = m_link.isPending(ControlRequest::FetchConfigPaths),

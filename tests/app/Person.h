@@ -63,6 +63,12 @@ struct Person
         }
         return can;
     }
+    /// Gives it the keyboard; a window that just came up has it a little later.
+    static bool focus(QWidget *widget)
+    {
+        widget->setFocus();
+        return QTest::qWaitFor([widget] { return QApplication::focusWidget() == widget; });
+    }
     static void key(int key) { QTest::keyClick(QApplication::focusWidget(), Qt::Key(key)); }
     static void ctrl(int key)
     {

@@ -76,7 +76,7 @@ VantuAppShell &ShellFixture::shell()
 bool ShellFixture::start()
 {
     shell().start();
-    return QTest::qWaitFor([this] { return isReady(); });
+    return QTest::qWaitFor([this] { return isReady() && !host.items().isEmpty(); });
 }
 
 bool ShellFixture::isReady()

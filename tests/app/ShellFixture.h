@@ -38,7 +38,7 @@ public:
 
     /// Made at the first call, after the test has set the preferences.
     VantuAppShell &shell();
-    /// Starts, and waits until everything that is asked for at first has come.
+    /// Starts, and waits until everything that is asked for at first has come, and the icon.
     bool start();
     bool isReady();
     /// One more status poll; true once it was answered.

@@ -44,6 +44,7 @@ constexpr auto kScenes = std::to_array<Scene>({
     {"regions"_L1, 3, "VantuModeVantuRegions"_L1},
     {"languages"_L1, 4, "VantuSettingsLanguage"_L1},
     {"question"_L1, 4, "VantuSettingsKillSwitchOff"_L1},
+    {"refusal"_L1, 3, "VantuModeVantuProxy"_L1},
     {"update"_L1, 4, "VantuSettingsCheckUpdate"_L1},
 });
 
@@ -56,6 +57,7 @@ struct Visitor : Person
             {"id":"b1","name":"Berlin 1","pingMs":9}]})");
         desk.answer("GET /v1/nodes/groups", R"({"tabs":[{"group_type":"Favorite","node_ids":["t1"]},
             {"group_type":"Europe","groups":[{"name":"Germany","node_ids":["b1"]}]}]})");
+        desk.answer("POST /v1/nodes/favorite", R"({"nodes":[]})");
         desk.answer("GET /v1/split/rules", R"({"rules":{"block":{"items":["b.example"]}}})");
         desk.answer("GET /v1/split/dns", R"({"config":{"policy":"tunnel-only",
             "local_direct_dns":["1.1.1.1"]},"effective":{"policy":"tunnel-only"}})");
@@ -257,6 +259,7 @@ private Q_SLOTS:
     void mirrored();
     void places();
     void news();
+    void heldReturn();
 
 private:
     static void scenes()
@@ -416,9 +419,46 @@ void TestKeyboard::news()
     for (const Page page : {Page::Locations, Page::Mode, Page::Settings, Page::Account}) {
         p.desk.window()->showPageError(page, u"No %1"_s.arg(int(page)));
     }
+    QVERIFY(p.searchAll());
+    p.type("zz");
+    Person::key(Qt::Key_Escape);
+    p.type("tokyo");
+    Person::key(Qt::Key_Down);
+    Person::key(Qt::Key_F);
+    p.ctrl(Qt::Key_1);
+    p.ctrl(Qt::Key_F);
+    p.type("nowhere");
+    p.ctrl(Qt::Key_5);
+    QVERIFY(p.desk.poll(kNobody));
     QAccessible::installUpdateHandler(nullptr);
-    QCOMPARE(heard(), QStringList({u"Notification: Hello"_s, u"Connected"_s, u"Not connected"_s,
-                                   u"No 1"_s, u"No 2"_s, u"No 3"_s, u"No 4"_s}));
+    QCOMPARE(heard(),
+             QStringList({u"Notification: Hello"_s, u"Connected"_s, u"Not connected"_s, u"No 1"_s,
+                          u"No 2"_s, u"No 3"_s, u"No 4"_s, u"No matching locations."_s,
+                          u"Tokyo 1, 38 ms"_s, u"No matching locations."_s, u"Sign in"_s}));
+}
+
+/// A Return that is held down presses once, and goes on only where lines are written.
+void TestKeyboard::heldReturn()
+{
+    const auto repeat = [] {
+        // As X11 does it when Qt doesn't notice.
+        for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+            QKeyEvent event(type, Qt::Key_Return, {}, u"\r"_s);
+            event.setTimestamp(7);
+            QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+        }
+    };
+    {
+        Visitor p;
+        QVERIFY(p.enter(kScenes.at(11)));
+        repeat();
+        QVERIFY(QApplication::activeModalWidget()); // The question isn't answered.
+    }
+    Visitor p;
+    QVERIFY(p.enter(kScenes.at(8)));
+    repeat();
+    QCOMPARE(p.see<QPlainTextEdit>(u"VantuSplitRulesEditorText"_s)->toPlainText(),
+             u"a.example\n"_s);
 }
 
 QTEST_MAIN(TestKeyboard)

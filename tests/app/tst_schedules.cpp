@@ -83,6 +83,7 @@ void TestSchedules::updateCheckKeepsBooks()
     updates.checkIfDue();
     QCOMPARE(book(), (UpdateBookkeeping{.lastAttemptAt = 5000, .lastNotifiedAt = 7}));
     QVERIFY(m_link.take(*m_link.pendingId(ControlRequest::CheckUpdate)));
+    preferences.setUpdateBookkeeping(kVersion, {}); // As if it could not be saved.
     updates.handleUpdate({}, u"no server"_s);
     QCOMPARE(updates.secondsUntilDue(), 3600);
     UpdateInfo info;

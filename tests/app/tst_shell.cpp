@@ -42,6 +42,7 @@ private Q_SLOTS:
     void replacedDaemonIsAskedAnew();
     void catalogueWatch();
     void signOutForgetsAccount();
+    void changeMadeLater();
     void languageRestart_data();
     void languageRestart();
     void leaving_data();
@@ -69,7 +70,8 @@ void TestShell::refusedVersion()
     QVERIFY(fixture.window()->isVisible());
     QCOMPARE(fixture.notice(), kIncompatible);
     QVERIFY(fixture.noticeStays());
-    QCOMPARE(other.routes().count("GET /v1/version"), other.routes().size());
+    const QByteArrayList asked = other.routes();
+    QCOMPARE(asked.count("GET /v1/version"), asked.size());
 
     fixture.leadTo(fixture.daemon.socketName());
     QTRY_VERIFY_WITH_TIMEOUT(fixture.isReady(), kRecheck);
@@ -117,6 +119,7 @@ void TestShell::connectedFromTheStart()
     fixture.answer(kStatus, status("connected"));
     QVERIFY(fixture.start());
     QCOMPARE(fixture.button()->text(), u"Disconnect"_s);
+    QVERIFY(QTest::qWaitForWindowActive(fixture.window()));
     QVERIFY(!fixture.button()->hasFocus());
 }
 
@@ -208,20 +211,46 @@ void TestShell::signOutForgetsAccount()
     ShellFixture fixture;
     QVERIFY(fixture.start());
     const qsizetype asked = fixture.count("GET /v1/user");
+    const qsizetype fetched = fixture.count("GET /v1/nodes/groups");
     const QByteArray out = R"({"tunnel_state":"disconnected","auth_state":"logged_out"})";
     fixture.answerHeld("GET /v1/user", R"({"email":"me@example.org"})");
     fixture.answer("POST /v1/session/logout", out);
     QVERIFY(fixture.poll());
     QTRY_COMPARE(fixture.count("GET /v1/user"), asked + 1);
     const QSignalSpy user(&fixture.shell().state(), &AppState::userChanged);
-    fixture.answer(kStatus, out);
+    fixture.answerHeld(kStatus, out); // It would clear what stands there.
     QVERIFY(fixture.host.click(u"Logout"_s));
     QTRY_COMPARE(fixture.trayDetail(), u"Logged out"_s);
     fixture.daemon.release();
-    QVERIFY(fixture.poll());
+    QVERIFY(fixture.poll(out));
     QCOMPARE(user.count(), 1);
     QVERIFY(fixture.shell().state().user().email.isEmpty());
     QCOMPARE(fixture.button()->text(), u"Sign In"_s);
+    // Its places go too; those of another come with it, whoever signed in.
+    QTRY_COMPARE(fixture.count("GET /v1/nodes/groups"), fetched + 1);
+    QVERIFY(fixture.poll(status("disconnected")));
+    QTRY_COMPARE(fixture.count("GET /v1/nodes/groups"), fetched + 2);
+}
+
+/// What was told as failed may be made all the same, and others make changes too.
+void TestShell::changeMadeLater()
+{
+    ShellFixture fixture;
+    QVERIFY(fixture.start());
+    const AppState &state = fixture.shell().state();
+    fixture.answer("DELETE /v1/config/api-url", {}, 500);
+    fixture.shell().resetSettingsAPIURL();
+    QTRY_VERIFY(!fixture.notice().isEmpty());
+    fixture.daemon.clearRequests();
+    fixture.answer("GET /v1/split/dns", R"({"config":{"policy":"dual-auto"}})");
+    for (const QByteArray url : {"", "https://b.example"}) {
+        const QByteArray member = "\"api_url\":\"" + url + '"';
+        fixture.answer("GET /v1/config/api-url", '{' + member + '}');
+        QVERIFY(fixture.poll(status("off", "auto", ',' + member)));
+        QTRY_COMPARE(state.apiURLConfig().apiURL, QString::fromLatin1(url));
+    }
+    QCOMPARE(state.splitDNS().configPolicy, u"dual-auto"_s);
+    QTRY_COMPARE(fixture.count("GET /v1/version"), 2); // Another service each time.
 }
 
 void TestShell::languageRestart_data()
@@ -262,6 +291,7 @@ void TestShell::languageRestart()
     QTRY_COMPARE(GuiPreferences().lastEffectiveLanguage().first(2),
                  QString::fromLatin1(language).first(2).toLower());
     QCOMPARE(restart.count(), wasIdle ? restarts : 0);
+    QTRY_COMPARE(fixture.count(kConnect) + fixture.count("POST /v1/mode"), wasIdle ? 0 : 1);
     fixture.daemon.release();
     QTRY_COMPARE(restart.count(), restarts);
     QCOMPARE(fixture.notice() == u"Restarting Vantu to apply the interface language."_s,

@@ -17,10 +17,8 @@ using Reply = ScriptedDaemon::Reply;
 using Shell = VantuAppShell;
 using Act = void (*)(Shell &);
 using Intent = void (Shell::*)();
-using Answer = void (*)(Shell &, quint64);
 Q_DECLARE_METATYPE(Act)
 Q_DECLARE_METATYPE(Intent)
-Q_DECLARE_METATYPE(Answer)
 
 namespace {
 
@@ -29,11 +27,15 @@ constexpr auto kDisconnect = "POST /v1/disconnect";
 constexpr auto kStatus = "GET /v1/status";
 constexpr auto kTokyo = R"(,"connected_node":{"id":"a","name":"Tokyo","region":"JP"})";
 
-/// The answer with this id, a failure without a text.
-template<auto Slot, class Record>
-void failBlankly(Shell &shell, quint64 id)
+/// Whatever is awaited of the kind ends: it fails without a text, or has nothing to tell.
+template<auto Slot, bool Fails = true>
+void end(Shell &shell)
 {
-    (shell.*Slot)(id, Record(), u" "_s);
+    [&]<class Record>(void (Shell::*slot)(quint64, const Record &, const QString &)) {
+        for (quint64 id = 100; id > 0; --id) { // What is asked for then is not awaited yet.
+            (shell.*slot)(id, Record(), Fails ? u" "_s : QString());
+        }
+    }(Slot);
 }
 
 } // namespace
@@ -51,8 +53,8 @@ private Q_SLOTS:
     void cancelBehindModeChange();
     void failureIsToldWhereAsked_data();
     void failureIsToldWhereAsked();
-    void blankFailures_data();
-    void blankFailures();
+    void ownWords_data();
+    void ownWords();
     void requiredUpdate_data();
     void requiredUpdate();
     void killSwitchChain_data();
@@ -131,10 +133,11 @@ void TestShellOperations::cancelOfDaemonsConnect()
     QTRY_COMPARE(fixture.count(kDisconnect), 1);
     QCOMPARE(fixture.button()->text(), u"Canceling..."_s);
     fixture.shell().cancelConnect();
+    fixture.answerHeld(kStatus); // It would clear what the tray tells.
     fixture.daemon.release();
     QTRY_COMPARE(fixture.trayDetail(), u"Stuck"_s);
     QVERIFY(fixture.notice().isEmpty());
-    QVERIFY(fixture.poll());
+    QVERIFY(fixture.poll(status("connecting")));
     QCOMPARE(fixture.count(kDisconnect), 1);
     QCOMPARE(fixture.button()->text(), u"Cancel"_s); // The daemon goes on, as before.
 }
@@ -167,14 +170,18 @@ void TestShellOperations::failureIsToldWhereAsked_data()
     QTest::addColumn<Intent>("begin");
     QTest::addColumn<QByteArray>("route");
     QTest::addColumn<bool>("inTray");
-    const auto row = [](const char *route, bool inTray, Intent begin) {
-        QTest::addRow("%s %s", route, inTray ? "in the tray" : "in the window")
-            << begin << QByteArray(route) << inTray;
+    QTest::addColumn<Intent>("before");
+    const auto row = [](const char *route, bool inTray, Intent begin, Intent before = {}) {
+        QTest::addRow("%s%s %s", before ? "cancel with " : "", route,
+                      inTray ? "in the tray" : "in the window")
+            << begin << QByteArray(route) << inTray << before;
     };
     row(kConnect, false, &Shell::connectRuntime);
     row(kConnect, true, &Shell::connectRuntimeFromTray);
     row(kDisconnect, false, &Shell::disconnectRuntime);
     row(kDisconnect, true, &Shell::disconnectRuntimeFromTray);
+    row(kDisconnect, false, &Shell::cancelConnect, &Shell::connectRuntimeFromTray);
+    row(kDisconnect, true, &Shell::cancelConnectFromTray, &Shell::connectRuntime);
     row("POST /v1/session/logout", false, &Shell::logoutAccount);
     row("POST /v1/session/logout", true, &Shell::logoutAccountFromTray);
 }
@@ -184,10 +191,16 @@ void TestShellOperations::failureIsToldWhereAsked()
     QFETCH(Intent, begin);
     QFETCH(QByteArray, route);
     QFETCH(bool, inTray);
+    QFETCH(Intent, before);
     ShellFixture fixture;
     QVERIFY(fixture.start());
+    if (before) {
+        fixture.answerHeld(kConnect);
+        (fixture.shell().*before)();
+    }
     const auto told = u"50%1 & <b>no</b>"_s;
     fixture.answer(route, R"({"error":" 50%1 & <b>no</b> "})", 500);
+    fixture.answerHeld(kStatus); // It would clear what the tray tells.
     (fixture.shell().*begin)();
     (fixture.shell().*begin)();
     if (inTray) {
@@ -197,53 +210,112 @@ void TestShellOperations::failureIsToldWhereAsked()
         QTRY_COMPARE(fixture.notice(), told);
         QVERIFY(!fixture.noticeStays() && fixture.trayDetail() != told);
     }
+    QVERIFY(fixture.poll(status("disconnected")));
     QTRY_VERIFY(fixture.isReady());
     QCOMPARE(fixture.count(route), 1);
+    // The card keeps the reason until there is a connection.
+    const auto detail = u"VantuVPNStatusDetail"_s;
+    QCOMPARE(fixture.text(detail) == told, route == kConnect && !inTray);
+    QVERIFY(fixture.poll(status("connected")) && fixture.poll(status("disconnected")));
+    QTRY_COMPARE(fixture.text(u"VantuStatusTitle"_s), u"Not connected"_s);
+    QVERIFY(fixture.text(detail) != told);
 }
 
-void TestShellOperations::blankFailures_data()
+void TestShellOperations::ownWords_data()
 {
     QTest::addColumn<Act>("begin");
-    QTest::addColumn<Answer>("fail");
-    const auto row = [](const char *notice, Answer fail, Act begin) {
-        QTest::newRow(notice) << begin << fail;
+    QTest::addColumn<Act>("finish");
+    QTest::addColumn<bool>("excludes");
+    bool excludes = true;
+    const auto row = [&excludes](const char *notice, Act finish, Act begin) {
+        QTest::newRow(notice) << begin << finish << excludes;
     };
-    const Answer connected = &failBlankly<&Shell::handleWindowConnectFinished, RuntimeInfo>;
-    const Answer mode = &failBlankly<&Shell::handleWindowModeFinished, ModeInfo>;
+    const Act connected = &end<&Shell::handleWindowConnectFinished>;
+    const Act mode = &end<&Shell::handleWindowModeFinished>;
     row("Could not connect", connected, [](Shell &s) { s.connectRuntime(); });
     row("Could not connect to this location", connected, [](Shell &s) { s.connectSmart({}); });
-    row("Could not disconnect", &failBlankly<&Shell::handleWindowDisconnectFinished, RuntimeInfo>,
+    row("Could not disconnect", &end<&Shell::handleWindowDisconnectFinished>,
         [](Shell &s) { s.disconnectRuntime(); });
     row("Could not switch mode", mode, [](Shell &s) { s.setModePreference({}); });
+    // A success that shows nothing of what was asked for is none.
+    const Act undone = &end<&Shell::handleWindowModeFinished, false>;
     row("Could not update local network", mode, [](Shell &s) { s.setLocalNetworkPreference({}); });
-    row("Could not update system proxy", mode,
+    row("Could not update system proxy", undone,
         [](Shell &s) { s.setSettingsSystemProxyPreference({}); });
-    row("Could not update kill switch",
-        &failBlankly<&Shell::handleWindowKillSwitchFinished, KillSwitchInfo>,
+    row("Could not update kill switch", &end<&Shell::handleWindowKillSwitchFinished, false>,
         [](Shell &s) { s.setSettingsKillSwitchMode({}); });
-    row("Could not sign in", &failBlankly<&Shell::handleWindowLoginFinished, RuntimeInfo>,
+    row("Could not sign in", &end<&Shell::handleWindowLoginFinished>,
         [](Shell &s) { s.loginAccount({}, {}, false); });
-    row("Could not sign out", &failBlankly<&Shell::handleWindowLogoutFinished, RuntimeInfo>,
+    row("Could not sign out", &end<&Shell::handleWindowLogoutFinished>,
         [](Shell &s) { s.logoutAccount(); });
+
+    excludes = false; // Beside these everything else goes on.
+    const Act importRules = [](Shell &s) { s.importModeSplitRules(u"block"_s, {}); };
+    const Act listen = [](Shell &s) { s.setSettingsProxyListeners({}, {}); };
+    row("Could not update auto connect", &end<&Shell::handleWindowAutoConnectFinished>,
+        [](Shell &s) { s.setSettingsAutoConnect({}); });
+    row("Could not update proxy listen address", &end<&Shell::handleWindowProxyListenFinished>,
+        listen);
+    row("Proxy listen address updated", &end<&Shell::handleWindowProxyListenFinished, false>,
+        listen);
+    row("Could not update language", &end<&Shell::handleWindowLanguageFinished>,
+        [](Shell &s) { s.setSettingsLanguage({}, {}); });
+    row("Repair failed", &end<&Shell::handleWindowRepairFinished>,
+        [](Shell &s) { s.repairSettingsDiagnostics(); });
+    row("Could not load config paths", &end<&Shell::handleWindowConfigPathsFinished>,
+        [](Shell &s) { s.refreshConfigPaths(); });
+    row("Could not refresh locations", &end<&Shell::handleWindowNodesFinished>,
+        [](Shell &s) { s.refreshLocations(); });
+    row("Could not refresh location groups", &end<&Shell::handleWindowNodeGroupsFinished>,
+        [](Shell &s) {
+            RuntimeInfo other = s.state().runtime();
+            other.authState = u"none"_s;
+            s.state().setRuntime(other);
+        });
+    row("Could not load split rules", &end<&Shell::handleWindowSplitRulesFinished>,
+        [](Shell &s) { s.refreshModeSplitRules(); });
+    row("Could not import split rules", &end<&Shell::handleWindowSplitRuleImportFinished>,
+        importRules);
+    row("Custom split rules unchanged", &end<&Shell::handleWindowSplitRuleImportFinished, false>,
+        importRules);
+    row(
+        "Custom split rules updated, but rules could not be refreshed",
+        [](Shell &s) {
+            end<&Shell::handleWindowSplitRuleImportFinished, false>(s);
+            end<&Shell::handleWindowSplitRulesFinished>(s);
+        },
+        importRules);
+    row("Could not open renewal page", &end<&Shell::handleWindowPurchaseURLFinished>,
+        [](Shell &s) { s.requestPurchaseURL({}); });
+    row("Could not load account", &end<&Shell::handleWindowUserFinished>, [](Shell &s) {
+        s.loginAccount({}, {}, false);
+        end<&Shell::handleWindowLoginFinished, false>(s);
+    });
+    row("Could not load version", &end<&Shell::handleWindowVersionFinished>, [](Shell &s) {
+        s.resetSettingsAPIURL();
+        end<&Shell::handleWindowAPIURLFinished, false>(s);
+    });
 }
 
-void TestShellOperations::blankFailures()
+/// What stands there where the daemon has no words of its own.
+void TestShellOperations::ownWords()
 {
     QFETCH(Act, begin);
-    QFETCH(Answer, fail);
+    QFETCH(Act, finish);
+    QFETCH(bool, excludes);
     ShellFixture fixture;
     QVERIFY(fixture.start());
     fixture.answerHeld({});
     fixture.answerHeld(kDisconnect);
     begin(fixture.shell());
-    // Whatever is begun meanwhile is refused, and says so where the user asked.
-    QVERIFY(!fixture.isIdle());
-    fixture.shell().setModePreference(moderequest::wireGuard());
-    QCOMPARE(fixture.notice(), u"Please wait for the current operation to finish"_s);
-    // Nothing else is awaited, so that the one pending id is among these.
-    for (quint64 id = 0; id < 100; ++id) {
-        fail(fixture.shell(), id);
+    QCOMPARE(fixture.isIdle(), !excludes);
+    if (excludes) {
+        // Whatever is begun meanwhile is refused, and says so where the user asked.
+        fixture.shell().setModePreference(moderequest::wireGuard());
+        QCOMPARE(fixture.notice(), u"Please wait for the current operation to finish"_s);
     }
+    // Nothing else of the kind is awaited.
+    finish(fixture.shell());
     QCOMPARE(fixture.notice(), QString::fromLatin1(QTest::currentDataTag()));
     QVERIFY(fixture.isIdle());
 }

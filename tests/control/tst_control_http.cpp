@@ -3,10 +3,13 @@
 #include "HttpResponseParser.h"
 #include "ScriptedDaemon.h"
 
+#include <QLocalServer>
 #include <QLocalSocket>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <atomic>
+#include <ctime>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -36,6 +39,7 @@ private Q_SLOTS:
     void exchanges_data();
     void exchanges();
     void reportsAbsentAndRefusingDaemons();
+    void restsBeforeFullQueue();
     void cancels();
     void writesLargeRequests();
     void explainsConnectErrors();
@@ -217,6 +221,22 @@ void ControlHttpTest::reportsAbsentAndRefusingDaemons()
         QVERIFY(!control::performRequest(name, "GET", u"/v1/test"_s, {}, 5000, error));
         QCOMPARE(error, u"Vantu daemon is not running."_s);
     }
+}
+
+/// A daemon that hangs must not make its clients burn.
+void ControlHttpTest::restsBeforeFullQueue()
+{
+    const QTemporaryDir directory;
+    QLocalServer hung; // Accepts in an event loop, of which there is none here.
+    hung.setListenBacklogSize(0);
+    QVERIFY(hung.listen(directory.filePath(u"socket"_s)));
+    QLocalSocket queued;
+    queued.connectToServer(hung.fullServerName());
+    QString error;
+    const std::clock_t before = std::clock(); // Of the processor.
+    QVERIFY(!control::performRequest(hung.fullServerName(), "GET", u"/"_s, {}, 500, error));
+    QVERIFY(std::clock() - before < CLOCKS_PER_SEC / 5);
+    QCOMPARE(error, u"Could not connect to Vantu daemon."_s); // It was full indeed.
 }
 
 void ControlHttpTest::cancels()

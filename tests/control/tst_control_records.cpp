@@ -80,7 +80,7 @@ void ControlRecordsTest::decodesMembers()
         "amd64_download_link":"d","recommended_artifact":{"url":"x","sha256":"y",
         "size_bytes":9007199254740993}}}})"),
              (UpdateInfo{u"p"_s, u"c"_s, 1.5, true, u"t"_s, u"v"_s, 2.5, true, true, ab, u"r"_s,
-                         u"u"_s, u"m"_s, u"d"_s, u"x"_s, u"y"_s, 9007199254740993}));
+                         u"u"_s, u"m"_s, u"d"_s, u"x"_s, u"y"_s, 9007199254740993, true}));
     QCOMPARE(
         decoded(decode::guiUpdateDownloadInfo, R"({"state":"verifying","current_version":"c",
         "version_code":"v","version_num":1,"bytes_downloaded":5000000000,"bytes_total":3,
@@ -99,17 +99,18 @@ void ControlRecordsTest::decodesMembers()
     QCOMPARE(decoded(decode::proxyListenResultInfo, R"({"applies_on_reconnect":true,
         "proxy_listeners":[{"name":"n","scheme":"s","address":"a"}]})"),
              (ProxyListenResultInfo{true, {{u"n"_s, u"s"_s, u"a"_s}}}));
-    QCOMPARE(
-        decoded(decode::splitDNSInfo, R"({"path":"p","changed":true,"runtime_reloaded":true,
+    QCOMPARE(decoded(decode::splitDNSInfo, R"({"path":"p","changed":true,"runtime_reloaded":true,
         "runtime_warning":"w","config":{"policy":"cp","local_direct_dns":["a"],
         "fake_ip_enabled":true},"effective":{"policy":"ep","local_direct_dns":["a","b"],
         "local_dns_source":"ls","auto_cn_default":true}})"),
-        (SplitDNSInfo{u"p"_s, true, true, u"w"_s, u"cp"_s, a, true, u"ep"_s, ab, u"ls"_s, true}));
+             (SplitDNSInfo{u"p"_s, true, true, u"w"_s, u"cp"_s, a, true, u"ep"_s, ab, u"ls"_s, true,
+                           true}));
     QCOMPARE(decoded(decode::splitRulesInfo, R"({"dir":"d","files":{"direct":"f"},
         "rules":{"direct":{"items":["a","b"]},"block":{}}})"),
              (SplitRulesInfo{u"d"_s,
                              {{u"direct"_s, u"f"_s}},
-                             {{u"direct"_s, {u"a"_s, u"b"_s}}, {u"block"_s, {}}}}));
+                             {{u"direct"_s, {u"a"_s, u"b"_s}}, {u"block"_s, {}}},
+                             true}));
     QCOMPARE(decoded(decode::splitRuleMutationInfo, R"({"kind":"k","changed":true,"count":3,
         "file":"f","runtime_reloaded":true})"),
              (SplitRuleMutationInfo{u"k"_s, true, 3, u"f"_s, true}));

@@ -224,7 +224,7 @@ void ControlWorkerTest::cancelsCurrentRequest()
 {
     Setup s;
     s.daemon.enqueue("GET /v1/user", Reply::nothing().hold());
-    const quint64 canceled = s.link.send(Request::FetchUser);
+    const quint64 canceled = s.link.sendWithTimeout(Request::FetchUser, 0);
     QVERIFY(s.daemon.waitForRequests(1));
     s.worker(WorkerLane::Reads).cancelCurrentRequest();
     QTRY_COMPARE(s.answers.all, (QList<Answers::Answer>{{canceled, kCanceled}}));
@@ -238,7 +238,7 @@ void ControlWorkerTest::shutsDownWithEndlessRequests()
     s.daemon.setDefault({}, Reply::nothing().hold());
     s.link.send(Request::ConnectRuntime);
     s.link.send(Request::DisconnectRuntime);
-    s.link.send(Request::FetchStatus);
+    s.link.sendWithTimeout(Request::FetchStatus, 0);
     QVERIFY(s.daemon.waitForRequests(2));
     QPointer<ControlWorker> session = &s.worker(WorkerLane::Session);
     s.pool.shutDown();

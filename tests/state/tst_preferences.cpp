@@ -241,6 +241,11 @@ private Q_SLOTS:
             QCOMPARE(error, u"Could not resolve the Vantu executable for login startup."_s);
         }
         writeFile(m_dir->filePath(u"file"_s), {});
+        error.clear(); // In a Flatpak.
+        const GuiAutostart confined(m_dir->path(), u"/app/vantu"_s, m_dir->filePath(u"file"_s));
+        QVERIFY(!confined.reconcile(true, &error) && !QFile::exists(confined.entryPath()));
+        QCOMPARE(error, u"Could not resolve the Vantu executable for login startup."_s);
+        QVERIFY(confined.reconcile(false, &error));
         QVERIFY(!GuiAutostart(m_dir->filePath(u"file"_s)).reconcile(true, &error));
         QCOMPARE(error, u"Could not prepare the login startup directory."_s);
 

@@ -187,6 +187,7 @@ private Q_SLOTS:
             .defaultRoute = u"tunnel"_s, .directRegions = {u"CN"_s, u"RU"_s}, .gfwList = true};
         const ModeInfo request = moderequest::vantuVPNSplitWith(asked);
         ModeInfo answer = request;
+        answer.known = true;
         answer.policy = u"bypass-region"_s;
         answer.region = u"JP"_s;
         answer.splitProfile.directRegions = {u"ru"_s, u"CN"_s};

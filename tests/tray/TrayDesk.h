@@ -65,7 +65,8 @@ struct Desk
         tray.refreshStatus();
         return polled.wait();
     }
-    /// No status comes any more, so that a notification stays to be read.
+    /// From now on a status doesn't come, so that a notification can be read until it is
+    /// given up, 1.5 s later.
     void holdPolls() { daemon.setDefault("GET /v1/status", heldJson(status("held"))); }
     /// Body of the last request of a route; empty when there was none.
     QByteArray body(const QByteArray &route) const

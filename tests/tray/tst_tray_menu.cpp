@@ -151,7 +151,13 @@ void addSettingRows()
               SystemProxyOff, u"+"_s), idle);
     row("nodes in flight", [](auto &, auto &, auto &c) { c.nodesInFlight = true;
             c.nodesHeld = false; },
-        looks(RefreshNodes, u"-Refresh Nodes"_s, NodesPlaceholder, u"-"_s), idle);
+        looks(RefreshNodes, u"-Refresh Nodes"_s, NodesPlaceholder, u"-Loading nodes..."_s), idle);
+    row("nodes not asked for", [](auto &, auto &, auto &c) { c.nodesHeld = false; },
+        looks(NodesPlaceholder, u"-Nodes not loaded"_s), idle);
+    row("nodes refused", [](auto &, auto &, auto &c) { c.nodesFailed = true;
+            c.nodesHeld = false; }, looks(NodesPlaceholder, u"-Could not load nodes"_s), idle);
+    row("groups refused", [](auto &, auto &, auto &c) { c.groupsFailed = true; },
+        looks(NodesPlaceholder, u"-Could not load node groups"_s), idle);
     row("recent nodes before the catalogue", [](auto &, auto &, auto &c) { c.nodesHeld = false;
             c.recentNodes = {{u"b"_s, u"Osaka"_s, {}}}; },
         looks(Slot1, u"+Osaka"_s, Slot2, u"hidden"_s), idle);

@@ -77,20 +77,23 @@ void TestTrayNodes::nodeMenu()
     QMenu menu;
     QAction *last = menu.addAction(u"Locations"_s);
     TrayNodeMenu nodeMenu(menu, *last);
-    nodeMenu.show({}, {});
+    nodeMenu.show({}, {}, false);
+    QCOMPARE(menu.actions().constFirst()->isVisible(), false);
+    nodeMenu.show({}, {}, true);
+    QVERIFY(menu.actions().constFirst()->isVisible());
     QCOMPARE(outline(menu), u"No cached nodes|-|Locations"_s);
     QVERIFY(!menu.actions().constFirst()->isEnabled());
 
     NodesInfo nodes;
     nodes.nodes = {node(u"a"_s, u"One"_s), node(u"b"_s, u"Two"_s)};
-    nodeMenu.show(planTrayNodes(nodes, {}), u"b"_s);
+    nodeMenu.show(planTrayNodes(nodes, {}), u"b"_s, true);
     QCOMPARE(outline(menu), u"All Nodes{One|Two [selected]}|No cached nodes|-|Locations"_s);
     QAction *holder = menu.actions().constFirst();
     QVERIFY(holder->isChecked());
     QVERIFY(!menu.actions().at(1)->isVisible());
 
     // The selection moves without a rebuild, and a click doesn't move it.
-    nodeMenu.show(planTrayNodes(nodes, {}), u"a"_s);
+    nodeMenu.show(planTrayNodes(nodes, {}), u"a"_s, true);
     QCOMPARE(menu.actions().constFirst(), holder);
     QCOMPARE(outline(*holder->menu()), u"One [selected]|Two"_s);
     QSignalSpy chosen(&nodeMenu, &TrayNodeMenu::nodeChosen);
