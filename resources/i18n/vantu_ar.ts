@@ -230,12 +230,12 @@
         <translation>جارٍ حفظ المفضلة...</translation>
     </message>
     <message>
-        <source>Remove from favorites (F)</source>
-        <translation>إزالة من المفضلة (F)</translation>
+        <source>Remove from favorites</source>
+        <translation>إزالة من المفضلة</translation>
     </message>
     <message>
-        <source>Add to favorites (F)</source>
-        <translation>إضافة إلى المفضلة (F)</translation>
+        <source>Add to favorites</source>
+        <translation>إضافة إلى المفضلة</translation>
     </message>
 </context>
 <context>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>See all matches in Locations ›</source>
-        <translation>عرض كل النتائج في المواقع ‹</translation>
+        <translation>عرض كل النتائج في المواقع ›</translation>
     </message>
     <message>
         <source>Browse in Locations</source>
@@ -767,6 +767,14 @@
     </message>
 </context>
 <context>
+    <name>PlainText</name>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>What stands between the parts of a list, such as the names of several regions.</extracomment>
+        <translation>%1، %2</translation>
+    </message>
+</context>
+<context>
     <name>SearchField</name>
     <message>
         <source>Clear</source>
@@ -925,7 +933,7 @@
     </message>
     <message>
         <source>Where Vantu signs in and gets its locations.</source>
-        <translation>العنوان الذي يسجّل Vantu الدخول منه ويجلب المواقع.</translation>
+        <translation>العنوان الذي يسجّل Vantu الدخول عبره ويجلب منه المواقع.</translation>
     </message>
     <message>
         <source>Apply API URL</source>
@@ -1186,8 +1194,8 @@
         <translation>أدخل عنوان ويب، مثل ⁦https://api.example.com⁩.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not an IP address, such as 1.1.1.1.</source>
-        <translation>«%1» ليس عنوان IP، مثل 1.1.1.1.</translation>
+        <source>&quot;%1&quot; is not an IP address. Enter one such as 1.1.1.1.</source>
+        <translation>«%1» ليس عنوان IP. أدخل عنوانًا مثل ⁦1.1.1.1⁩.</translation>
     </message>
     <message>
         <source>Put an IPv6 address in brackets, as in [::1]:1080.</source>

@@ -230,12 +230,12 @@
         <translation>Favorit wird gespeichert...</translation>
     </message>
     <message>
-        <source>Remove from favorites (F)</source>
-        <translation>Aus Favoriten entfernen (F)</translation>
+        <source>Remove from favorites</source>
+        <translation>Aus Favoriten entfernen</translation>
     </message>
     <message>
-        <source>Add to favorites (F)</source>
-        <translation>Zu Favoriten hinzufügen (F)</translation>
+        <source>Add to favorites</source>
+        <translation>Zu Favoriten hinzufügen</translation>
     </message>
 </context>
 <context>
@@ -763,6 +763,14 @@
     </message>
 </context>
 <context>
+    <name>PlainText</name>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>What stands between the parts of a list, such as the names of several regions.</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
     <name>SearchField</name>
     <message>
         <source>Clear</source>
@@ -1182,8 +1190,8 @@
         <translation>Geben Sie eine Webadresse ein, zum Beispiel https://api.example.com.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not an IP address, such as 1.1.1.1.</source>
-        <translation>„%1“ ist keine IP-Adresse wie 1.1.1.1.</translation>
+        <source>&quot;%1&quot; is not an IP address. Enter one such as 1.1.1.1.</source>
+        <translation>„%1“ ist keine IP-Adresse. Geben Sie eine wie 1.1.1.1 ein.</translation>
     </message>
     <message>
         <source>Put an IPv6 address in brackets, as in [::1]:1080.</source>
@@ -1843,7 +1851,7 @@ Verfügbare Version: %2</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
-        <translation>Installation wird geöffnet...</translation>
+        <translation>Wird geöffnet...</translation>
     </message>
     <message>
         <source>%1 MB</source>

@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Could not secure Vantu login startup.</source>
-        <translation>无法保护 Vantu 的登录启动设置。</translation>
+        <translation>无法设置 Vantu 登录启动文件的权限。</translation>
     </message>
 </context>
 <context>
@@ -230,12 +230,12 @@
         <translation>正在保存收藏...</translation>
     </message>
     <message>
-        <source>Remove from favorites (F)</source>
-        <translation>取消收藏 (F)</translation>
+        <source>Remove from favorites</source>
+        <translation>取消收藏</translation>
     </message>
     <message>
-        <source>Add to favorites (F)</source>
-        <translation>添加到收藏 (F)</translation>
+        <source>Add to favorites</source>
+        <translation>添加到收藏</translation>
     </message>
 </context>
 <context>
@@ -762,6 +762,14 @@
     </message>
 </context>
 <context>
+    <name>PlainText</name>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>What stands between the parts of a list, such as the names of several regions.</extracomment>
+        <translation>%1、%2</translation>
+    </message>
+</context>
+<context>
     <name>SearchField</name>
     <message>
         <source>Clear</source>
@@ -1181,8 +1189,8 @@
         <translation>请输入网址，例如 https://api.example.com。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not an IP address, such as 1.1.1.1.</source>
-        <translation>“%1”不是有效的 IP 地址，正确格式如 1.1.1.1。</translation>
+        <source>&quot;%1&quot; is not an IP address. Enter one such as 1.1.1.1.</source>
+        <translation>“%1”不是 IP 地址。请输入 1.1.1.1 这样的地址。</translation>
     </message>
     <message>
         <source>Put an IPv6 address in brackets, as in [::1]:1080.</source>

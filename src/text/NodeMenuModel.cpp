@@ -62,7 +62,7 @@ QString NodeMenuModel::secondaryText(const NodeEntry &node)
             tags << tag;
         }
     }
-    return plaintext::singleLine(tags.join(u", "));
+    return plaintext::singleLine(plaintext::list(tags));
 }
 
 QString NodeMenuModel::toolTip(const NodeEntry &node)

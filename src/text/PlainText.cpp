@@ -1,6 +1,7 @@
 #include "PlainText.h"
 
 #include <QChar>
+#include <QCoreApplication>
 #include <QList>
 
 using namespace Qt::StringLiterals;
@@ -118,6 +119,13 @@ QString messageText(const QString &text)
     // Escaping would show "&lt;" where the server takes the text as it is, so that
     // the brackets give way to look-alikes instead.
     return singleLine(text).replace(u'<', u'\u2039').replace(u'>', u'\u203a');
+}
+
+QString list(const QStringList &parts)
+{
+    //: What stands between the parts of a list, such as the names of several regions.
+    const QString pair = QCoreApplication::translate("PlainText", "%1, %2");
+    return parts.join(pair.arg(QString(), QString()));
 }
 
 QString pluralText(QString text, int count)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 /// Keeps texts that come from a server or from the user from doing anything but
 /// being read: node names, error messages and the like may hold line breaks, marks
@@ -35,6 +36,9 @@ Qt::LayoutDirection readingDirection(const QString &line, Qt::LayoutDirection pr
 /// For desktop notifications, whose servers may read markup and don't say so:
 /// singleLine without angle brackets.
 QString messageText(const QString &text);
+
+/// `parts` as they are listed within a sentence of the program's language: "a, b, c".
+QString list(const QStringList &parts);
 
 /// For texts counted by tr(…, count): English has no translation file that could choose
 /// its plural, so that the "(s)" of an untranslated text is resolved here.

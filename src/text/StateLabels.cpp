@@ -161,7 +161,7 @@ QStringList splitParts(const ModeInfo &mode)
             profile.defaultRoute.compare(wire::kRouteDirect, Qt::CaseInsensitive) == 0;
         const QString through = proxy ? TrayMenuText::proxy() : TrayMenuText::tunnel();
         parts << TrayMenuText::regions(direct ? through : TrayMenuText::direct(),
-                                       plaintext::singleLine(regions.join(u", ")));
+                                       plaintext::singleLine(plaintext::list(regions)));
     }
     if (profile.gfwList) {
         parts << (proxy ? TrayMenuText::gfwListProxy() : TrayMenuText::gfwListTunnel());
@@ -185,7 +185,7 @@ QString mode(const ModeInfo &mode)
     if (transport.compare(wire::kTransportWireGuard, Qt::CaseInsensitive) == 0) {
         return QCoreApplication::translate("VantuTrayApp", "WireGuard");
     }
-    const QString options = splitParts(mode).join(u", ");
+    const QString options = plaintext::list(splitParts(mode));
     if (facts::isProxyMode(mode)) {
         return facts::isSplit(mode) ? TrayMenuText::proxySplit(options)
                                     : TrayMenuText::proxyGlobal();

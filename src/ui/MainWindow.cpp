@@ -341,7 +341,8 @@ void MainWindow::showPageError(Page page, const QString &message)
 {
     switch (page) {
     case Page::Vpn:
-        break; // Its status card tells of failed connects by itself.
+        m_vpn->showConnectError(message);
+        break;
     case Page::Locations:
         m_locations->showOperationError(message);
         break;
@@ -442,10 +443,10 @@ void MainWindow::keyPressEvent(QKeyEvent *event)
     // Return presses what has the keyboard, like Space.
     auto *button = qobject_cast<QAbstractButton *>(focusWidget());
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!isReturn || !button) {
-        QMainWindow::keyPressEvent(event);
-    } else if (!event->isAutoRepeat()) {
+    if (isReturn && button) {
         button->click();
+    } else {
+        QMainWindow::keyPressEvent(event);
     }
 }
 

@@ -88,6 +88,8 @@ Q_SIGNALS:
     void connectRuntimeRequested();
     void cancelConnectRequested();
     void disconnectRuntimeRequested();
+    /// The user asked for a connection while something runs that excludes it.
+    void connectRefused();
     void setModeRequested(const ModeInfo &mode);
     void splitRulesRequested();
     void importSplitRulesRequested(const QString &kind, const QString &content);

@@ -74,7 +74,10 @@ void MainWindow::connectLocationsPage()
 bool MainWindow::connectAllowed()
 {
     if (facts::isSignedIn(m_state.runtime())) {
-        return true;
+        if (m_activity.excludesConnect) {
+            Q_EMIT connectRefused();
+        }
+        return !m_activity.excludesConnect;
     }
     showPage(static_cast<int>(Page::Account));
     m_account->showError(QCoreApplication::translate("AccountPage", "Sign in to connect."));

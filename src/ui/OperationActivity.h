@@ -6,19 +6,20 @@ struct OperationActivity
     bool changingMode = false;
     bool changingLocalNetwork = false;
     bool changingSettings = false; ///< Anything of the settings page.
-    bool checkingUpdate = false;   ///< The user's own look for a newer client.
+    bool checkingUpdate = false;   ///< Looking for a newer client, by itself or when asked.
     bool signingInOrOut = false;
     bool openingRenewal = false;
     bool loadingSplitRules = false;
     bool refreshingLocations = false;
+    /// No connection can be begun beside what runs, in whatever face it was asked for.
+    bool excludesConnect = false;
 
-    /// Something has begun since `before`.
+    /// Something of the user's has begun since `before`.
     bool hasBegunSince(const OperationActivity &before) const
     {
         return (changingMode && !before.changingMode) ||
                (changingLocalNetwork && !before.changingLocalNetwork) ||
                (changingSettings && !before.changingSettings) ||
-               (checkingUpdate && !before.checkingUpdate) ||
                (signingInOrOut && !before.signingInOrOut) ||
                (openingRenewal && !before.openingRenewal) ||
                (refreshingLocations && !before.refreshingLocations);

@@ -9,7 +9,7 @@
 /// Opens links that nobody else may see, such as one with an access token.
 ///
 /// The desktop's portal takes them over the user's own bus, whereas the command line of
-/// a helper program can be read by everybody on the machine. Lives on the GUI thread.
+/// any program can be read by everybody on the machine. Lives on the GUI thread.
 class PrivateLink final : public QObject
 {
     Q_OBJECT

@@ -91,6 +91,7 @@ void WindowController::connectWindow()
     repeat(&Window::connectRuntimeRequested, &Controller::connectRuntimeRequested);
     repeat(&Window::cancelConnectRequested, &Controller::cancelConnectRequested);
     repeat(&Window::disconnectRuntimeRequested, &Controller::disconnectRuntimeRequested);
+    repeat(&Window::connectRefused, &Controller::connectRefused);
     repeat(&Window::setModeRequested, &Controller::setModeRequested);
     repeat(&Window::splitRulesRequested, &Controller::splitRulesRequested);
     repeat(&Window::importSplitRulesRequested, &Controller::importSplitRulesRequested);

@@ -2,6 +2,7 @@
 
 #include "ConnectProgress.h"
 #include "ControlRecords.h"
+#include "HeldReturnFilter.h"
 #include "MainWindow.h"
 #include "PrivateLink.h"
 #include "UpdateRecords.h"
@@ -101,6 +102,7 @@ Q_SIGNALS:
     void connectRuntimeRequested();
     void cancelConnectRequested();
     void disconnectRuntimeRequested();
+    void connectRefused();
     void setModeRequested(const ModeInfo &mode);
     void splitRulesRequested();
     void importSplitRulesRequested(const QString &kind, const QString &content);
@@ -164,6 +166,7 @@ private:
     AppState &m_state;
     GuiPreferences &m_preferences;
     SharedTheme &m_theme;
+    HeldReturnFilter m_heldReturn;
     QPointer<MainWindow> m_window;
     QPointer<UpdateDialog> m_updateDialog; ///< Owned; has no parent, to live without a window.
     bool m_hideToTray = true;

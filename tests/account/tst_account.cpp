@@ -26,6 +26,7 @@ private Q_SLOTS:
     void summary();
     void failureLeadsBackToThePassword();
     void successForgetsThePassword();
+    void keyboardStaysOnThePage();
 
 private:
     template<typename Widget>
@@ -151,6 +152,23 @@ void TestAccount::successForgetsThePassword()
     m_page->hide();
     QCOMPARE(m_password->text(), QString());
     QCOMPARE(m_username->text(), u"jo"_s);
+}
+
+/// And never on what signs out unasked.
+void TestAccount::keyboardStaysOnThePage()
+{
+    const auto *renew = find<QPushButton>("Renew");
+    m_password->setFocus();
+    m_page->setBusy(true);
+    setAuth(u"logged_in"_s); // A status may tell it before the answer.
+    m_page->setBusy(false);
+    QVERIFY(renew->hasFocus());
+    m_page->setOpening(true);
+    QVERIFY(!find<QPushButton>("Logout")->hasFocus());
+    m_page->setOpening(false);
+    QVERIFY(renew->hasFocus());
+    setAuth(u"logged_out"_s);
+    QVERIFY(m_password->hasFocus());
 }
 
 QTEST_MAIN(TestAccount)

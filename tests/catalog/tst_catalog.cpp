@@ -215,11 +215,16 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("query");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("tab with all below") << u"vip"_s << u"VIP{Japan{Otto 2}}"_s;
-        QTest::newRow("alias of a tab") << u"fav"_s << u"Favorites{Tokyo 1}"_s;
-        QTest::newRow("group and node") << u"japan tokyo"_s << u"Nodes{Asia{Japan{Tokyo 1}}}"_s;
-        QTest::newRow("any script") << u"京"_s << u"Nodes{Asia{Japan{東京 4 [turbo]}}}"_s;
-        QTest::newRow("nothing") << u"tokyo germany"_s << QString();
+        QTest::addColumn<int>("places"); // In each heading of the last tab.
+        QTest::newRow("tab with all below") << u"vip"_s << u"VIP{Japan{Otto 2}}"_s << 1;
+        QTest::newRow("alias of a tab") << u"fav"_s << u"Favorites{Tokyo 1}"_s << 1;
+        QTest::newRow("group and node")
+            << u"japan tokyo"_s << u"Nodes{Asia{Japan{Tokyo 1}}}"_s << 1;
+        QTest::newRow("group with all below")
+            << u"japan"_s
+            << u"VIP{Japan{Otto 2}}, Nodes{Asia{Japan{Tokyo 1, Otto 2, 東京 4 [turbo]}}}"_s << 3;
+        QTest::newRow("any script") << u"京"_s << u"Nodes{Asia{Japan{東京 4 [turbo]}}}"_s << 1;
+        QTest::newRow("nothing") << u"tokyo germany"_s << QString() << 0;
     }
 
     void filter()
@@ -228,8 +233,13 @@ private Q_SLOTS:
         QFETCH(QString, expected);
         Catalog catalog;
         const QString all = shown(catalog.filter);
+        const auto lastTab = [&] { return catalog.filter.index(catalog.filter.rowCount() - 1, 0); };
         catalog.filter.setSearchText(query);
         QCOMPARE(shown(catalog.filter), expected);
+        for (QModelIndex at = lastTab(); at.isValid() && catalog.filter.hasChildren(at);
+             at = catalog.filter.index(0, 0, at)) {
+            QTEST(at.data(CatalogFilterModel::PlaceCountRole).toInt(), "places");
+        }
         // A catalogue that comes while searching is searched as well.
         NodesInfo fewer = someNodes();
         fewer.nodes.removeLast();
@@ -237,6 +247,7 @@ private Q_SLOTS:
         QCOMPARE(shown(catalog.filter), expected);
         catalog.filter.setSearchText(u" - "_s);
         QCOMPARE(shown(catalog.filter), all);
+        QCOMPARE(lastTab().data(CatalogFilterModel::PlaceCountRole), QVariant(6));
     }
 
     void newMeasurementsKeepTheTree()

@@ -353,7 +353,7 @@ void TestLocations::favorites()
 
     f.page.setUnconfirmedFavorites({{u"t1"_s, true}}); // refused; another one is under way
     QVERIFY(isFavorite(berlin()));
-    f.clickStar(berlin());
+    QTest::keyClick(&f.tree, Qt::Key_D, Qt::ControlModifier);
     QCOMPARE(f.favoriteSpy.takeFirst(), (QVariantList{u"b1"_s, false}));
     f.page.clearFavoritePending();
     f.clickStar(berlin());
@@ -362,6 +362,16 @@ void TestLocations::favorites()
     QVERIFY(!isFavorite(berlin()));
     f.page.clearFavoriteOverrides();
     QVERIFY(isFavorite(berlin()));
+
+    // The keyboard stays where the row was.
+    f.tree.setFocus();
+    for (const auto *ids : {"t1 b1 t2", "t1 t2", "t1"}) {
+        NodeGroupsInfo groups = someGroups();
+        groups.tabs[0].nodeIds = QString::fromLatin1(ids).split(u' ');
+        f.state.setNodeGroups(groups);
+        QCoreApplication::processEvents();
+        QCOMPARE(f.tree.currentIndex().row(), groups.tabs[0].nodeIds.size() > 1 ? 1 : 0);
+    }
 }
 
 void TestLocations::daemonAway()

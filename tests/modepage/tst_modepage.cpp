@@ -106,7 +106,7 @@ struct Fixture
     }
     void holdRules(const QStringList &direct)
     {
-        state.setSplitRules({u"/rules"_s, {}, {{u"direct"_s, direct}}});
+        state.setSplitRules({u"/rules"_s, {}, {{u"direct"_s, direct}}, true});
     }
     template<typename Widget = QAbstractButton>
     Widget &find(const QString &part)

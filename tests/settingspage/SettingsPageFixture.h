@@ -107,7 +107,7 @@ struct SettingsPageFixture
         runtime.mode.systemProxy = QStringLiteral("off");
         state.setRuntime(runtime);
         SplitDNSInfo dns;
-        dns.path = QStringLiteral("x");
+        dns.known = true;
         state.setSplitDNS(dns);
     }
 

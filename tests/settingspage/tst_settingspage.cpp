@@ -229,6 +229,10 @@ void SettingsPageTest::busyKeepsPlaceAndFocus()
     m_ui->page->showOperationError(u"refused"_s);
     m_ui->page->setRequestInFlight(false);
     QCOMPARE(m_ui->window.focusWidget(), apply);
+    m_ui->page->setDaemonAvailable(false, u"away"_s);
+    QCOMPARE(m_ui->window.focusWidget(), scroll); // And on no other button.
+    m_ui->page->setDaemonAvailable(true, {});
+    QCOMPARE(m_ui->window.focusWidget(), apply);
     QCOMPARE(apply->mapTo(&m_ui->window, QPoint()), place);
     m_ui->page->setRequestInFlight(true);
     QCOMPARE(apply->mapTo(&m_ui->window, QPoint()), place);
@@ -317,6 +321,7 @@ void SettingsPageTest::splitDNSTexts()
     QFETCH(const QString, info);
     const QStringList parts = info.split(u'|');
     SplitDNSInfo dns;
+    dns.known = info != "|||||"_L1;
     dns.configPolicy = parts.at(0);
     dns.effectivePolicy = parts.at(1);
     dns.autoCNDefault = !parts.at(2).isEmpty();
@@ -368,7 +373,7 @@ void SettingsPageTest::factsAndLinks()
     QCOMPARE(QGuiApplication::clipboard()->text(), u"http://[fd::1]:2"_s);
 
     UpdateInfo update;
-    update.platform = u"linux"_s;
+    update.known = true;
     m_ui->state.setUpdate(update);
     m_ui->state.setVersion({true, false, u"1.1"_s, u"2"_s});
     QVERIFY(m_ui->facts("VantuSettingsVersionSummary")

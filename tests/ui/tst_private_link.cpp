@@ -65,6 +65,9 @@ void TestPrivateLink::portalOpensOrRefuses()
     // The program may leave before the portal answers.
     PrivateLink(QDBusConnection::sessionBus()).open(url, refuse);
     QTRY_COMPARE(portal.opened.size(), 3);
+    bool answered = false; // So is what was asked before it.
+    link.open(url, [&answered] { answered = true; });
+    QTRY_VERIFY(answered);
     QCOMPARE(refused, 2);
 }
 

@@ -17,6 +17,8 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <initializer_list>
+
 using namespace Qt::StringLiterals;
 
 class TestWidgets final : public QObject
@@ -332,9 +334,12 @@ void TestWidgets::toggleActionClicks()
     QPushButton choice(u"&One && all"_s);
     choice.setCheckable(true);
     choice.setAutoExclusive(true);
+    QToolButton star;
+    star.setAccessibleName(u"Guard"_s);
+    star.setCheckable(true);
     for (QAbstractButton *button :
-         {static_cast<QAbstractButton *>(&toggle), static_cast<QAbstractButton *>(&choice)}) {
-        const bool isSwitch = button == &toggle;
+         std::initializer_list<QAbstractButton *>{&toggle, &choice, &star}) {
+        const bool isSwitch = button != &choice;
         QSignalSpy clicked(button, &QAbstractButton::clicked);
         QAccessibleInterface *access = QAccessible::queryAccessibleInterface(button);
         QCOMPARE(access->role(), isSwitch ? QAccessible::CheckBox : QAccessible::RadioButton);

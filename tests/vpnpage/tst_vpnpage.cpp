@@ -133,6 +133,9 @@ void VpnPageTest::detail_data()
     QTest::newRow("failed") << true << failed << ConnectProgress{} << u"handshake timed out"_s
                             << true;
     QTest::newRow("trying again") << true << failed << kConnecting << smartSelectText() << false;
+    RuntimeInfo down = runtimeWith(u"disconnected"_s);
+    down.tunnelReason = u"idle"_s;
+    QTest::newRow("refused") << true << down << ConnectProgress{} << u"no route"_s << true;
 }
 
 void VpnPageTest::detail()
@@ -143,7 +146,7 @@ void VpnPageTest::detail()
     AppState state;
     state.setRuntime(runtime);
     const VpnSummary summary =
-        vpnSummary(state, {available, u"no socket"_s, progress, {}},
+        vpnSummary(state, {available, u"no socket"_s, progress, {}, u"no route"_s},
                    QDateTime::fromString(u"2026-01-01T12:05:30Z"_s, Qt::ISODate));
     QTEST(summary.detail, "expected");
     QTEST(summary.detailIsError, "isError");
@@ -177,6 +180,8 @@ void VpnPageTest::cards_data()
         << proxy << on << true
         << u"Vantu Proxy: Global|On \u00b7 Not available in Vantu Proxy|Direct"_s;
     QTest::newRow("gone") << automatic << on << false << u"Auto|Unavailable|Unavailable"_s;
+    QTest::newRow("never told") << ModeInfo{} << on << false
+                                << u"Unavailable|Unavailable|Unavailable"_s;
 }
 
 void VpnPageTest::cards()
@@ -217,14 +222,17 @@ void VpnPageTest::cardsLeadToPages()
 void VpnPageTest::namesThePlaceOnTheWay()
 {
     VpnPageFixture test;
+    const auto *value = test.find<QLabel>("VantuVPNLocationValue");
+    QCOMPARE(value->text(), u"Unavailable"_s);
     test.page->setDaemonAvailable(true, {});
     test.page->setPendingConnectTarget(
         {PendingConnectTarget::Kind::Smart, u"JP"_s, u"Japan"_s, u"jp"_s});
-    const auto *value = test.find<QLabel>("VantuVPNLocationValue");
     QCOMPARE(value->text(), smartSelectText());
+    auto *flag = test.find<FlagLabel>("VantuVPNStatusFlag");
+    const QImage noFlag = flag->grab().toImage();
     test.page->setConnectProgress(kConnecting);
     QCOMPARE(value->text(), u"Japan"_s);
-    QVERIFY(test.find<FlagLabel>("VantuVPNStatusFlag")->hasFlag());
+    QVERIFY(flag->grab().toImage() != noFlag);
     QVERIFY(!test.page->setPendingConnectTarget({})); // What runs has its own.
     QCOMPARE(value->text(), u"Japan"_s);
     test.page->setConnectProgress({});
@@ -267,7 +275,7 @@ void VpnPageTest::flagOnTheWay()
     RuntimeInfo runtime = runtimeWith(u"disconnected"_s);
     runtime.selectedNode = {u"8"_s, u"Oslo 1"_s, u"NO"_s, {}};
     state.setRuntime(runtime);
-    QTEST(vpnSummary(state, {true, {}, progress, target}, {}).flagCode, "expected");
+    QTEST(vpnSummary(state, {true, {}, progress, target, {}}, {}).flagCode, "expected");
 }
 
 /// What runs takes the keyboard from nobody: it comes back to the button, not to a card.

@@ -8,6 +8,14 @@
 using namespace Qt::StringLiterals;
 using Kind = CatalogTreeItem::Kind;
 
+namespace {
+
+// In place of a number of places found.
+constexpr int kDropped = -1;
+constexpr int kKeptWhole = -2;
+
+} // namespace
+
 CatalogFilterModel::CatalogFilterModel(CatalogTreeModel &source, QObject *parent)
     : RowFilterProxyModel(parent)
     , m_source(source)
@@ -41,7 +49,17 @@ bool CatalogFilterModel::isKept(const CatalogTreeItem &item) const
         return true;
     }
     findMatches();
-    return m_kept[item.ordinal] != 0;
+    return m_found[item.ordinal] != kDropped;
+}
+
+int CatalogFilterModel::placeCount(const CatalogTreeItem &item) const
+{
+    if (m_search.isEmpty()) {
+        return item.placeCount;
+    }
+    findMatches();
+    const int found = m_found[item.ordinal];
+    return found == kKeptWhole ? item.placeCount : found;
 }
 
 void CatalogFilterModel::findMatches() const
@@ -50,28 +68,32 @@ void CatalogFilterModel::findMatches() const
         return;
     }
     const CatalogTreeItem &root = m_source.item({});
-    m_kept.assign(root.end, 0);
+    m_found.assign(root.end, kDropped);
     m_matchedRevision = m_source.revision();
     m_isMatched = true;
     visit(root, m_search.allTerms());
 }
 
-// Notes for the row and all below whether they are kept; returns it for the row.
-bool CatalogFilterModel::visit(const CatalogTreeItem &item,
-                               const CatalogSearch::Missing &missing) const
+// Notes for the row and all below what is found there. Returns the number of places that
+// are kept with the row, or kDropped.
+int CatalogFilterModel::visit(const CatalogTreeItem &item,
+                              const CatalogSearch::Missing &missing) const
 {
     const auto rest = m_search.stillMissing(missing, item.searchText);
-    const auto at = m_kept.begin() + std::ptrdiff_t(item.ordinal);
+    const auto at = m_found.begin() + std::ptrdiff_t(item.ordinal);
     if (rest.isEmpty()) {
-        std::fill(at, m_kept.begin() + std::ptrdiff_t(item.end), 1);
-        return true;
+        std::fill(at, m_found.begin() + std::ptrdiff_t(item.end), kKeptWhole);
+        return item.kind == Kind::Node ? 1 : item.placeCount;
     }
-    bool kept = false;
+    int found = kDropped;
     for (const auto &child : item.children) {
-        kept = visit(*child, rest) || kept;
+        const int below = visit(*child, rest);
+        if (below != kDropped) {
+            found = std::max(found, 0) + below;
+        }
     }
-    *at = kept ? 1 : 0;
-    return kept;
+    *at = found;
+    return found;
 }
 
 bool CatalogFilterModel::hasRowsBelow(const QModelIndex &sourceRow) const
@@ -112,7 +134,7 @@ QVariant CatalogFilterModel::data(const QModelIndex &index, int role) const
         return item.flagCode;
     }
     if (role == PlaceCountRole) {
-        return item.kind == Kind::Node ? QVariant() : QVariant(item.placeCount);
+        return item.kind == Kind::Node ? QVariant() : QVariant(placeCount(item));
     }
     return spokenText(item);
 }

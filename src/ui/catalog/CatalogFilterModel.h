@@ -14,9 +14,9 @@ class CatalogTreeModel;
 /// lies below them, and what leads to them. Without a search it is the whole tree, in
 /// the catalogue's order.
 ///
-/// Which rows are kept is worked out in one walk per query and catalogue. It also
-/// answers what only a view asks for: the country of a flag, the number of places and
-/// the text that is read aloud. Lives on the GUI thread.
+/// Which rows are kept, and how many places below each, is worked out in one walk per
+/// query and catalogue. It also answers what only a view asks for: the country of a flag,
+/// the number of places and the text that is read aloud. Lives on the GUI thread.
 class CatalogFilterModel final : public qtcompat::RowFilterProxyModel
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     /// In addition to the roles of CatalogTreeModel and to Qt::AccessibleTextRole.
     enum ViewRole {
         FlagCodeRole = Qt::UserRole + 100, ///< Of nodes, for flagPixmap(); may be empty.
-        PlaceCountRole,                    ///< Of tabs and groups: the nodes below, as int.
+        PlaceCountRole,                    ///< Of tabs and groups: the nodes shown below, as int.
     };
 
     /// `source` must outlive the filter.
@@ -51,15 +51,17 @@ protected:
 
 private:
     bool isKept(const CatalogTreeItem &item) const;
+    int placeCount(const CatalogTreeItem &item) const;
     void findMatches() const;
-    bool visit(const CatalogTreeItem &item, const CatalogSearch::Missing &missing) const;
+    int visit(const CatalogTreeItem &item, const CatalogSearch::Missing &missing) const;
     QString spokenText(const CatalogTreeItem &item) const;
 
     const CatalogTreeModel &m_source;
     QString m_searchText;
     CatalogSearch m_search;
-    // By the rows' ordinals, for the tree of m_matchedRevision; worked out when asked for.
-    mutable std::vector<char> m_kept;
+    // The places found at each row or below, by the rows' ordinals, for the tree of
+    // m_matchedRevision; worked out when asked for.
+    mutable std::vector<int> m_found;
     mutable quint64 m_matchedRevision = 0;
     mutable bool m_isMatched = false;
 };

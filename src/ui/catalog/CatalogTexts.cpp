@@ -1,9 +1,9 @@
 #include "CatalogTexts.h"
 
+#include "PlainText.h"
+
 #include <QCoreApplication>
 #include <QStringList>
-
-using namespace Qt::StringLiterals;
 
 namespace catalogtexts {
 
@@ -34,7 +34,7 @@ QString spoken(const Place &place)
     }
     parts += place.state;
     parts.removeAll(QString());
-    return parts.join(u", "_s);
+    return plaintext::list(parts);
 }
 
 } // namespace catalogtexts

@@ -3,6 +3,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QLoggingCategory>
 
 using namespace Qt::StringLiterals;
@@ -49,6 +50,10 @@ PortalColorScheme::PortalColorScheme(const QDBusConnection &bus, QObject *parent
     if (!listening && m_bus.isConnected()) {
         qCInfo(lcStyle, "Changes of the desktop's colour scheme will go unnoticed");
     }
+    // One that comes late, or anew after a change, tells nothing by itself.
+    auto *comings =
+        new QDBusServiceWatcher(kService, m_bus, QDBusServiceWatcher::WatchForRegistration, this);
+    connect(comings, &QDBusServiceWatcher::serviceRegistered, this, &PortalColorScheme::ask);
 }
 
 void PortalColorScheme::ask()
@@ -63,9 +68,7 @@ void PortalColorScheme::onReadFinished(QDBusPendingCallWatcher *watcher)
 {
     watcher->deleteLater();
     const QDBusPendingReply<QDBusVariant> reply = *watcher;
-    if (reply.isError()) {
-        Q_EMIT unavailable();
-    } else {
+    if (!reply.isError()) {
         Q_EMIT answered(schemeOf(reply.value().variant()));
     }
 }

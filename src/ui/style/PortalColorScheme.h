@@ -19,15 +19,14 @@ class PortalColorScheme final : public QObject
 public:
     explicit PortalColorScheme(const QDBusConnection &bus, QObject *parent = nullptr);
 
-    /// Sends the question; `answered` or `unavailable` follows once.
+    /// Sends the question; `answered` follows if there is a portal that knows this setting.
+    /// It is asked anew of one that comes later.
     void ask();
 
 Q_SIGNALS:
     /// The scheme in force: the answer to ask(), and again at every change. A portal
     /// without preference, or with a value from the future, answers Unknown.
     void answered(ColorScheme scheme);
-    /// There is no portal, or it doesn't know this setting.
-    void unavailable();
 
 private Q_SLOTS:
     void onSettingChanged(const QString &group, const QString &key, const QDBusVariant &value);

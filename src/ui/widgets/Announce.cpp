@@ -46,11 +46,16 @@ QAccessibleInterface *describe(const QString &, QObject *object)
 
 void announce(QWidget &source)
 {
+    const auto *spoken =
+        QAccessible::isActive() ? QAccessible::queryAccessibleInterface(&source) : nullptr;
+    announce(source, spoken ? spoken->text(QAccessible::Name) : QString());
+}
+
+void announce(QWidget &source, const QString &text)
+{
     QAccessibleEvent alert(&source, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
-    auto *spoken =
-        QAccessible::isActive() ? QAccessible::queryAccessibleInterface(&source) : nullptr;
-    if (!spoken) {
+    if (!QAccessible::isActive()) {
         return;
     }
     // Qt doesn't pass alerts on to the screen readers of this desktop.
@@ -60,7 +65,16 @@ void announce(QWidget &source)
         news = new QObject(source.window());
         news->setObjectName(kNews);
     }
-    news->setProperty(kText, spoken->text(QAccessible::Name));
+    news->setProperty(kText, text);
     QAccessibleEvent show(news, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&show);
+}
+
+void setShownAloud(QWidget &text, bool shown)
+{
+    const bool appears = shown && text.isHidden();
+    text.setVisible(shown);
+    if (appears) {
+        announce(text);
+    }
 }

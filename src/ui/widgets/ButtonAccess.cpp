@@ -6,13 +6,14 @@
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QToolButton>
 
 namespace {
 
 QAccessibleInterface *describe(const QString &, QObject *object)
 {
     if (qobject_cast<QPushButton *>(object) || qobject_cast<QCheckBox *>(object) ||
-        qobject_cast<QRadioButton *>(object)) {
+        qobject_cast<QRadioButton *>(object) || qobject_cast<QToolButton *>(object)) {
         return new ButtonAccess(static_cast<QAbstractButton &>(*object));
     }
     return nullptr;
@@ -55,7 +56,7 @@ QAccessible::Role ButtonAccess::role() const
     if (isOneOfSeveral(m_button)) {
         return QAccessible::RadioButton;
     }
-    return qobject_cast<QCheckBox *>(&m_button) ? QAccessible::CheckBox : QAccessible::Button;
+    return m_button.isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
 }
 
 QString ButtonAccess::text(QAccessible::Text kind) const

@@ -4,7 +4,7 @@
 
 class QAbstractButton;
 
-/// What assistive technology gets to know of push buttons, check boxes and switches. Where
+/// What assistive technology gets to know of buttons, check boxes and switches. Where
 /// Qt's own answer to "toggle" merely turns a button over, this one clicks it, so that
 /// whoever listens for the user's clicks hears of it.
 class ButtonAccess final : public QAccessibleWidget

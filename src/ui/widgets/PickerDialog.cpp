@@ -7,6 +7,7 @@
 #include "Theme.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -92,6 +93,13 @@ void PickerDialog::addButton(QPushButton *button)
     m_foot->insertWidget(0, button);
     setTabOrder(button, m_cancel);
     setTabOrder(m_cancel, m_apply);
+}
+
+void PickerDialog::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Escape || !m_list->clearSearch()) {
+        QDialog::keyPressEvent(event);
+    }
 }
 
 void PickerDialog::apply()

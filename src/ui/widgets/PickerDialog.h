@@ -5,6 +5,7 @@
 #include <QDialog>
 
 class QHBoxLayout;
+class QKeyEvent;
 class QPushButton;
 class Theme;
 
@@ -21,7 +22,8 @@ struct PickerTexts
 };
 
 /// A modal dialog to choose from a list: title, search, list, and at its foot Cancel and
-/// Apply, which can be pressed once the choice differs from the one that it began with.
+/// Apply, which can be pressed once the choice differs from the one that it began with. Escape
+/// ends the search first.
 class PickerDialog : public QDialog
 {
     Q_OBJECT
@@ -43,6 +45,8 @@ protected:
 
     /// Reports the choice, which differs from the first one; the dialog is closed by then.
     virtual void report(const QStringList &chosen) = 0;
+
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void buildButtons(const PickerTexts &texts);

@@ -1,5 +1,6 @@
 #include "PickerList.h"
 
+#include "Announce.h"
 #include "ElidedLabel.h"
 #include "PickerDelegate.h"
 #include "PlainText.h"
@@ -26,8 +27,7 @@ bool accepts(const QListWidgetItem &item, const QString &query)
 {
     const QString otherName = item.data(kOtherNameRole).toString();
     return PickerList::matches(item.text(), query) ||
-           (!otherName.isEmpty() && PickerList::matches(otherName, query)) ||
-           item.data(kKeyRole).toString().compare(query, Qt::CaseInsensitive) == 0;
+           (!otherName.isEmpty() && PickerList::matches(otherName, query));
 }
 
 } // namespace
@@ -106,7 +106,7 @@ void PickerList::setEntries(const QList<PickerEntry> &entries, const QStringList
         item->setData(kOtherNameRole, entry.otherName);
         if (!entry.detail.isEmpty()) {
             item->setData(PickerDelegate::kDetailRole, plaintext::singleLine(entry.detail));
-            item->setData(Qt::AccessibleTextRole, entry.name + u", "_s + entry.detail);
+            item->setData(Qt::AccessibleTextRole, plaintext::list({entry.name, entry.detail}));
         }
         if (m_choice == Choice::Several) {
             item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
@@ -133,6 +133,13 @@ QStringList PickerList::chosen() const
         }
     }
     return keys;
+}
+
+bool PickerList::clearSearch()
+{
+    const bool isSearching = !m_field->text().isEmpty();
+    m_field->clear();
+    return isSearching;
 }
 
 void PickerList::clearChosen()
@@ -178,7 +185,7 @@ void PickerList::search()
             item->setHidden(!accepts(*item, query));
         }
         QListWidgetItem *first = firstVisible();
-        m_nothing->setVisible(!first);
+        setShownAloud(*m_nothing, !first);
         suggest(first, !query.isEmpty());
     }
     if (m_choice == Choice::One) {

@@ -48,6 +48,8 @@ public:
 
     /// Keys in the order of the list, also of entries that the search hides.
     QStringList chosen() const;
+    /// Empties the search field; false if it was empty.
+    bool clearSearch();
     /// Unticks every entry; for several only.
     void clearChosen();
 

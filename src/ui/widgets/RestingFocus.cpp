@@ -20,6 +20,14 @@ void RestingFocus::giveBack()
     }
 }
 
+void RestingFocus::handTo(QWidget &control)
+{
+    m_control = &control;
+    m_place = control.parentWidget();
+    m_place->setFocus(Qt::OtherFocusReason);
+    giveBack();
+}
+
 void RestingFocus::setEnabled(QWidget &control, bool enabled)
 {
     if (!enabled && control.window()->focusWidget() == &control) {

@@ -19,6 +19,8 @@ public:
     void rest(QWidget &place);
     /// Call after controls may have been enabled again.
     void giveBack();
+    /// Gives the keyboard to a control, as soon as it is enabled.
+    void handTo(QWidget &control);
 
     /// Both around setEnabled(), for a control that comes and goes by itself. The keyboard
     /// waits on the control's parent.

@@ -1,5 +1,6 @@
 #include "AccountPage.h"
 
+#include "Announce.h"
 #include "AppState.h"
 #include "HandOnTheme.h"
 #include "LabelText.h"
@@ -269,10 +270,15 @@ void AccountPage::signIn()
     Q_EMIT loginRequested(username, m_password->text(), m_remember->isChecked());
 }
 
-void AccountPage::returnToPassword()
+bool AccountPage::hasKeyboard() const
 {
     const QWidget *focus = window()->focusWidget();
-    if (isVisible() && (!focus || isAncestorOf(focus))) {
+    return isVisible() && (!focus || isAncestorOf(focus));
+}
+
+void AccountPage::returnToPassword()
+{
+    if (hasKeyboard()) {
         m_password->setFocus();
         m_password->selectAll();
     }
@@ -292,16 +298,33 @@ void AccountPage::hideEvent(QHideEvent *event)
 void AccountPage::renderAccount()
 {
     const bool signedIn = facts::isSignedIn(m_state.runtime());
-    if (signedIn != m_signedIn) {
-        m_signedIn = signedIn;
+    const bool isNews = std::exchange(m_signedIn, signedIn) != signedIn;
+    if (isNews) {
         m_signInSent = false;
         m_password->setText({});
         clearMessage();
     }
     m_summary->setText(summary());
     m_summary->setVisible(!m_summary->text().isEmpty());
-    m_signInCard->setVisible(!signedIn);
-    m_signedInCard->setVisible(signedIn);
+    (signedIn ? m_signedInCard : m_signInCard)->show();
+    if (isNews && isVisible()) {
+        tellAccount();
+    }
+    (signedIn ? m_signInCard : m_signedInCard)->hide();
+}
+
+/// While the other card still stands, whose end would send the keyboard off the page.
+void AccountPage::tellAccount()
+{
+    announce(*this, m_signedIn ? tr("Signed in") : tr("Sign in"));
+    if (!hasKeyboard()) {
+        return;
+    }
+    if (m_signedIn) {
+        m_focus.handTo(*m_renew); // Signing out asks nothing.
+    } else {
+        focusSignIn();
+    }
 }
 
 QString AccountPage::summary() const
@@ -339,8 +362,8 @@ void AccountPage::renderControls()
         reason = QCoreApplication::translate("VantuAppShell",
                                              "Please wait for the current operation to finish");
     }
-    const auto enable = [&reason](QPushButton &button, bool enabled) {
-        button.setEnabled(enabled);
+    const auto enable = [this, &reason](QPushButton &button, bool enabled) {
+        m_focus.setEnabled(button, enabled);
         button.setToolTip(enabled || reason.isEmpty() ? QString() : plaintext::toolTip(reason));
     };
     const bool free = m_daemonAvailable && !m_busy;

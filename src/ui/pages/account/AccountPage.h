@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RestingFocus.h"
+
 #include <QWidget>
 
 class AppState;
@@ -60,8 +62,10 @@ private:
     void connectSignals();
 
     void signIn();
+    bool hasKeyboard() const;
     void returnToPassword();
     void renderAccount();
+    void tellAccount();
     void renderControls();
     void renderMessage();
     QString summary() const;
@@ -74,6 +78,7 @@ private:
     bool m_signedIn = false;
     bool m_signInSent = false; ///< Its end is not known yet.
     QString m_error;
+    RestingFocus m_focus;
 
     MessageArea *m_message = nullptr;
     QFrame *m_signInCard = nullptr;

@@ -1,5 +1,6 @@
 #include "LocationsItemDelegate.h"
 
+#include "CatalogKeys.h"
 #include "CatalogTreeModel.h"
 #include "PlainText.h"
 
@@ -50,7 +51,11 @@ QString LocationsItemDelegate::favoriteToolTip(const QModelIndex &index)
     if (isPending(index)) {
         return tr("Saving favorite...");
     }
-    return isFavorite(index) ? tr("Remove from favorites (F)") : tr("Add to favorites (F)");
+    const QStringList keys{favoriteLetter().toString(QKeySequence::NativeText),
+                           catalogkeys::favorite().toString(QKeySequence::NativeText)};
+    return u"%1 (%2)"_s.arg(isFavorite(index) ? tr("Remove from favorites")
+                                              : tr("Add to favorites"),
+                            plaintext::list(keys));
 }
 
 // Texts that may not fit into the row, and what the row's marks mean.

@@ -2,6 +2,8 @@
 
 #include "CatalogItemDelegate.h"
 
+#include <QKeySequence>
+
 /// The rows of the Locations page: painted as everywhere, with stars that can be
 /// pressed and tool tips that tell what a row has no room for.
 class LocationsItemDelegate final : public CatalogItemDelegate
@@ -12,6 +14,8 @@ class LocationsItemDelegate final : public CatalogItemDelegate
 public:
     using CatalogItemDelegate::CatalogItemDelegate;
 
+    /// Besides catalogkeys::favorite().
+    static QKeySequence favoriteLetter() { return {Qt::Key_F}; }
     /// Presses the star of a row. Rows without one, and those whose last press is still on
     /// its way to the daemon, take no notice.
     void toggleFavorite(const QModelIndex &index);

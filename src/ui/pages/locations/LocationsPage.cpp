@@ -242,11 +242,16 @@ void LocationsPage::updateTabsEnabled()
 void LocationsPage::updateList()
 {
     if (isVisible()) {
+        const bool wasEmpty = m_stack->currentWidget() == m_emptyPage;
+        const QString before = m_empty->text();
         if (updateEmptyTexts()) {
             m_tree->showBelow(listRoot());
             m_stack->setCurrentWidget(m_tree);
         } else {
             m_stack->setCurrentWidget(m_emptyPage);
+            if (!wasEmpty || m_empty->text() != before) {
+                announce(*m_empty);
+            }
         }
         updateShowAllMatches();
     }
@@ -435,6 +440,7 @@ void LocationsPage::onFavoriteClicked(const QModelIndex &index, bool favorite)
     const QString nodeId = text(index, CatalogTreeModel::NodeIdRole);
     m_catalog.setFavoriteOverride(nodeId, favorite);
     m_catalog.setFavoritePending(nodeId);
+    announce(*m_tree, text(index, Qt::AccessibleTextRole));
     Q_EMIT favoriteNodeRequested(nodeId, favorite);
 }
 

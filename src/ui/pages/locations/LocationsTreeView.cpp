@@ -1,6 +1,7 @@
 #include "LocationsTreeView.h"
 
 #include "CatalogFilterModel.h"
+#include "CatalogKeys.h"
 #include "CatalogTreeItem.h"
 #include "CatalogTreeModel.h"
 #include "LocationsItemDelegate.h"
@@ -197,10 +198,26 @@ LocationsTreeView::Snapshot LocationsTreeView::snapshot() const
                       result.expanded.insert(path, isExpanded(shown));
                   });
     result.current = m_catalog.pathOf(m_filter.mapToSource(currentIndex()));
+    result.currentRow = currentIndex().row();
     result.currentIsSelected = selectionModel()->isSelected(currentIndex());
     result.top = m_catalog.pathOf(m_filter.mapToSource(indexAt(QPoint(width() / 2, 0))));
     result.scrollValue = verticalScrollBar()->value();
     return result;
+}
+
+/// The row that was the current one. If it has gone under the keyboard, which would be lost,
+/// the one in its place.
+QModelIndex LocationsTreeView::placeOf(const Snapshot &snapshot) const
+{
+    const QModelIndex same = m_filter.mapFromSource(m_catalog.indexOfPath(snapshot.current));
+    if (same.isValid() || snapshot.currentRow < 0 || window()->focusWidget() != this) {
+        return same;
+    }
+    const QStringList heading = snapshot.current.first(snapshot.current.size() - 1);
+    const QModelIndex above = m_filter.mapFromSource(m_catalog.indexOfPath(heading));
+    const QModelIndex other =
+        m_filter.index(std::min(snapshot.currentRow, m_filter.rowCount(above) - 1), 0, above);
+    return liesBelow(other, rootIndex()) ? other : QModelIndex();
 }
 
 void LocationsTreeView::restore(const Snapshot &snapshot, bool expandNew)
@@ -211,7 +228,7 @@ void LocationsTreeView::restore(const Snapshot &snapshot, bool expandNew)
                   [this, &snapshot, expandNew](const QModelIndex &shown, const QStringList &path) {
                       setExpanded(shown, snapshot.expanded.value(path, expandNew));
                   });
-    const QModelIndex current = m_filter.mapFromSource(m_catalog.indexOfPath(snapshot.current));
+    const QModelIndex current = placeOf(snapshot);
     selectionModel()->clearSelection();
     selectionModel()->setCurrentIndex(current, snapshot.currentIsSelected
                                                    ? QItemSelectionModel::ClearAndSelect
@@ -236,9 +253,21 @@ bool LocationsTreeView::isTypingAhead() const
     return m_lastTyped.isValid() && m_lastTyped.elapsed() < QApplication::keyboardInputInterval();
 }
 
+bool LocationsTreeView::isFavoriteKey(const QKeyEvent &event) const
+{
+    const QKeySequence key(event.keyCombination());
+    // In the middle of a word it is just a letter.
+    return key == catalogkeys::favorite() ||
+           (key == LocationsItemDelegate::favoriteLetter() && !isTypingAhead());
+}
+
 void LocationsTreeView::keyPressEvent(QKeyEvent *event)
 {
     const QModelIndex current = currentIndex();
+    if (isNode(current) && isFavoriteKey(*event)) {
+        m_rows->toggleFavorite(current);
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -248,13 +277,6 @@ void LocationsTreeView::keyPressEvent(QKeyEvent *event)
             setExpanded(current, !isExpanded(current));
         }
         return;
-    case Qt::Key_F:
-        // In the middle of a word it is just a letter.
-        if (event->modifiers() == Qt::NoModifier && isNode(current) && !isTypingAhead()) {
-            m_rows->toggleFavorite(current);
-            return;
-        }
-        break;
     case Qt::Key_Escape:
         event->ignore(); // The page ends the search.
         return;

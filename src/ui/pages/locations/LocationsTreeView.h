@@ -19,7 +19,7 @@ struct ThemePalette;
 /// search.
 ///
 /// Headings (tabs and groups) fold; Return, Enter or a double click on a node asks for a
-/// connect; a press on a row's star or the key F is handed to the delegate. What it
+/// connect; a press on a row's star or its keys is handed to the delegate. What it
 /// shows can be noted by stable keys and brought back after the catalogue was replaced.
 class LocationsTreeView final : public QTreeView
 {
@@ -32,6 +32,7 @@ public:
     {
         QHash<QStringList, bool> expanded; ///< Of each heading.
         QStringList current;
+        int currentRow = -1; ///< Below the heading that it is in.
         bool currentIsSelected = false;
         QStringList top; ///< The first row in sight.
         int scrollValue = 0;
@@ -103,6 +104,8 @@ private:
     bool pressStar(const QMouseEvent &event);
     QModelIndex starAt(const QPoint &position) const;
     bool isTypingAhead() const;
+    bool isFavoriteKey(const QKeyEvent &event) const;
+    QModelIndex placeOf(const Snapshot &snapshot) const;
 
     CatalogTreeModel &m_catalog;
     CatalogFilterModel &m_filter;

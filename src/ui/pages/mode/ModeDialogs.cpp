@@ -34,7 +34,7 @@ void ModeDialogs::editRules()
     connect(m_editor, &SplitRulesEditorDialog::importRequested, this,
             &ModeDialogs::importRequested);
     // Others may have changed the rules since they were fetched last.
-    if (m_state.splitRules() != SplitRulesInfo{}) {
+    if (m_state.splitRules().known) {
         m_editor->setRules(m_state.splitRules());
     }
     m_editor->setLoading(true);

@@ -336,7 +336,7 @@ void ModePage::updateRulesWanted()
     const bool wanted =
         isVisible() && m_available && facts::isVantuVPNMode(mode()) && facts::isSplit(mode());
     const bool wasWanted = std::exchange(m_rulesWanted, wanted);
-    if (wanted && !wasWanted && !m_rulesLoading && m_state.splitRules() == SplitRulesInfo{}) {
+    if (wanted && !wasWanted && !m_rulesLoading && !m_state.splitRules().known) {
         requestRules();
     }
 }

@@ -91,7 +91,7 @@ QString ModeTexts::splitParts(const ModeInfo &mode, const RegionNames &regions)
     QStringList parts{tr("Default: %1").arg(isDirectByDefault(profile) ? direct() : through(proxy)),
                       tr("Regions use %1: %2")
                           .arg(regionsRoute(profile, proxy),
-                               names.isEmpty() ? TrayMenuText::none() : names.join(u", ")),
+                               names.isEmpty() ? TrayMenuText::none() : plaintext::list(names)),
                       tr("GFWList: %1").arg(profile.gfwList ? through(proxy) : tr("Off"))};
     if (!proxy) {
         parts << tr("Custom rules: %1").arg(profile.customRules ? tr("On") : tr("Off"));
@@ -106,7 +106,7 @@ QString ModeTexts::splitParts(const ModeInfo &mode, const RegionNames &regions)
 
 QString ModeTexts::customRules(const SplitRulesInfo &rules)
 {
-    if (rules == SplitRulesInfo{}) {
+    if (!rules.known) {
         return tr("Rules unavailable");
     }
     const auto count = [&rules](QLatin1StringView kind) {

@@ -88,6 +88,9 @@ void RegionPickerDialog::showCount()
 {
     const auto count = static_cast<int>(list().chosen().size());
     m_count->setText(countText(count));
+    if (count == 0 && focusWidget() == m_clear) {
+        list().setFocus(); // Qt would hand the keyboard to Cancel.
+    }
     m_clear->setEnabled(count > 0);
     m_clear->setToolTip(count > 0 ? QString() : countText(0));
 }

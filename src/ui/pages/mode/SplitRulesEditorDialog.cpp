@@ -388,6 +388,9 @@ void SplitRulesEditorDialog::render()
     m_apply->setAccessibleName(applyText());
     m_apply->setEnabled(canApply);
     m_apply->setToolTip(canApply ? QString() : plaintext::toolTip(whyNotApply()));
+    if (!canClear && focusWidget() == m_clear) {
+        m_text->setFocus(); // Qt would hand the keyboard to Cancel.
+    }
     m_clear->setEnabled(canClear);
     m_clear->setToolTip(canClear    ? QString()
                         : canEdit() ? plaintext::toolTip(QCoreApplication::translate(

@@ -34,7 +34,7 @@ QList<Fact> versionFacts(const AppState &state)
     if (facts.isEmpty()) {
         facts.append({SettingsTexts::tr("Version: unavailable"), {}});
     }
-    if (const UpdateInfo &update = state.update(); update != UpdateInfo{}) {
+    if (const UpdateInfo &update = state.update(); update.known) {
         const QString newer = plaintext::singleLine(update.versionCode);
         facts.append({update.updateAvailable ? SettingsTexts::tr("Update available: %1").arg(newer)
                                              : SettingsTexts::tr("Up to date"),

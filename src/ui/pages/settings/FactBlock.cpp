@@ -1,5 +1,6 @@
 #include "FactBlock.h"
 
+#include "Announce.h"
 #include "PlainText.h"
 #include "SettingsTexts.h"
 #include "StyleProperty.h"
@@ -113,6 +114,7 @@ void FactBlock::copy(qsizetype index)
     QToolButton *button = m_lines.at(index).button;
     QToolTip::showText(button->mapToGlobal(button->rect().bottomLeft()),
                        SettingsTexts::tr("Copied"), button);
+    announce(*button, SettingsTexts::tr("Copied"));
 }
 
 void FactBlock::applyThemePalette(const ThemePalette &palette)

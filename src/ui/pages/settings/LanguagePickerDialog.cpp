@@ -99,7 +99,7 @@ LanguagePickerDialog::LanguagePickerDialog(const LanguageConfigInfo &config, The
     for (const SupportedLanguage &language : languages) {
         entries.append({.key = language.code,
                         .name = language.name,
-                        .otherName = englishName(language.code),
+                        .otherName = englishName(language.code) + u' ' + language.code,
                         .detail = {}});
         if (chosen.isEmpty() && language::resolve(language.code) == present) {
             chosen = language.code;

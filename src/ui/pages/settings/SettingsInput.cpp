@@ -103,7 +103,7 @@ QString dnsProblem(const QString &text)
     const QStringList servers = dnsServers(text);
     for (const QString &server : servers) {
         if (!isDnsServer(server)) {
-            return SettingsTexts::tr("\"%1\" is not an IP address, such as 1.1.1.1.")
+            return SettingsTexts::tr("\"%1\" is not an IP address. Enter one such as 1.1.1.1.")
                 .arg(plaintext::singleLine(server, kQuotedLength));
         }
     }

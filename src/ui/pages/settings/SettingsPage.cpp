@@ -30,7 +30,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kSectionGap = 16;
-constexpr int kMessageGap = 8;
 /// Longest message of the daemon that is shown.
 constexpr qsizetype kMaxMessageLength = 500;
 
@@ -54,7 +53,7 @@ SettingsPage::SettingsPage(AppState &state, GuiPreferences &preferences, Theme &
     buildContent(state, preferences, theme);
     auto *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
-    page->setSpacing(kMessageGap);
+    page->setSpacing(kSectionGap);
     auto *top = new QVBoxLayout;
     top->setContentsMargins(PageScrollArea::kSideMargin, 0, PageScrollArea::kSideMargin, 0);
     top->addWidget(m_message);
@@ -179,10 +178,13 @@ void SettingsPage::setDaemonAvailable(bool available, const QString &reason)
 {
     if (available && !m_situation.available) {
         m_error.clear(); // It was about the time before.
+    } else if (!available && m_situation.available) {
+        m_focus.rest(*m_scroll);
     }
     m_situation.available = available;
     m_situation.unavailableReason = reason;
     render();
+    m_focus.giveBack();
 }
 
 void SettingsPage::setRequestInFlight(bool inFlight)
@@ -205,8 +207,8 @@ void SettingsPage::setUpdateCheckInFlight(bool inFlight)
         return;
     }
     m_situation.updateCheckInFlight = inFlight;
-    if (inFlight) {
-        clearError();
+    // One that begins by itself disturbs nobody who types elsewhere.
+    if (inFlight && m_about->isAncestorOf(window()->focusWidget())) {
         m_focus.rest(*m_scroll);
     }
     render();

@@ -27,7 +27,7 @@ QString serverList(const QStringList &servers)
 
 QString configuredPolicyText(const SplitDNSInfo &dns, const QString &name)
 {
-    if (dns == SplitDNSInfo{}) {
+    if (!dns.known) {
         return SettingsTexts::tr("Configured policy: unavailable");
     }
     return name.isEmpty() ? SettingsTexts::tr("Configured policy: default")
@@ -45,7 +45,7 @@ QString effectivePolicyText(const SplitDNSInfo &dns, const QString &name)
 
 QString configuredLocalText(const SplitDNSInfo &dns)
 {
-    if (dns == SplitDNSInfo{}) {
+    if (!dns.known) {
         return SettingsTexts::tr("Configured local DNS: unavailable");
     }
     const QString servers = serverList(dns.configLocalDirectDNS);
@@ -76,7 +76,7 @@ SplitDNSSection::SplitDNSSection(const AppState &state, QWidget *parent)
         SettingsTexts::tr("Split DNS applies only in VantuVPN Split mode. Auto, WireGuard, and "
                           "VantuVPN Global ignore this Local DNS setting and use tunnel DNS for "
                           "VPN traffic.") +
-            u' ' +
+            u'\n' +
             SettingsTexts::tr("Dual policies query both Local DNS and remote tunnel DNS for "
                               "domains outside split tunnel lists, then choose the route from the "
                               "result."),
@@ -157,7 +157,7 @@ void SplitDNSSection::render(const SettingsSituation &situation)
     m_policy->setValue(dns.configPolicy.trimmed());
     m_local->setStored(dns.configLocalDirectDNS.join(", "_L1));
 
-    const QString reason = situation.blockReason(dns != SplitDNSInfo{});
+    const QString reason = situation.blockReason(dns.known);
     allowUnless(reason, *m_policy);
     m_local->setBlocked(reason);
     allowUnless(reason, *m_reset);

@@ -18,11 +18,6 @@ void FlagLabel::setCode(const QString &code)
     }
 }
 
-bool FlagLabel::hasFlag() const
-{
-    return !flagPixmap(m_code, m_size, devicePixelRatioF()).isNull();
-}
-
 void FlagLabel::paintEvent(QPaintEvent *)
 {
     if (m_code.isEmpty()) {

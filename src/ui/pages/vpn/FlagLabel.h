@@ -16,8 +16,6 @@ public:
 
     /// A code as flagCode() gives it; empty for no flag.
     void setCode(const QString &code);
-    /// Whether this country's own flag is to be seen.
-    bool hasFlag() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -1,10 +1,10 @@
 #include "QuickEntryRow.h"
 
+#include "CatalogKeys.h"
 #include "CatalogTexts.h"
 #include "ElidedLabel.h"
 #include "FlagLabel.h"
 #include "PlainText.h"
-#include "QuickEntryKeys.h"
 #include "QuickEntrySignalBars.h"
 #include "TextStyle.h"
 #include "VpnSummary.h"
@@ -57,13 +57,14 @@ QuickEntryRow::QuickEntryRow(QWidget *parent)
     m_star->setFixedSize(kStarEdge, kStarEdge);
     m_star->setIconSize({kStarIcon, kStarIcon});
     m_star->setAutoRaise(true);
+    m_star->setCheckable(true);
     // Latencies stay in one column, whether a row has a star or not.
     QSizePolicy starPolicy = m_star->sizePolicy();
     starPolicy.setRetainSizeWhenHidden(true);
     m_star->setSizePolicy(starPolicy);
     m_star->setFocusPolicy(Qt::TabFocus);
     m_star->setToolTip(u"%1 (%2)"_s.arg(
-        catalogtexts::favorite(), quickentry::favoriteKey().toString(QKeySequence::NativeText)));
+        catalogtexts::favorite(), catalogkeys::favorite().toString(QKeySequence::NativeText)));
     m_star->setAccessibleName(catalogtexts::favorite());
     connect(m_star, &QToolButton::clicked, this, &QuickEntryRow::toggleFavorite);
 
@@ -106,6 +107,7 @@ void QuickEntryRow::setLook(const QuickEntryLook &look)
 
 void QuickEntryRow::toggleFavorite()
 {
+    m_star->setChecked(m_item.favorite); // Not what was clicked.
     if (m_item.kind == QuickEntryItem::Kind::Node && m_item.available) {
         Q_EMIT favoriteRequested(m_item.id, !m_item.favorite);
     }
@@ -119,6 +121,7 @@ void QuickEntryRow::renderItem()
     m_bars->setLevel(m_item.signalLevel);
     m_star->setVisible(isNode && m_item.available);
     m_star->setAccessibleDescription(m_item.label);
+    m_star->setChecked(m_item.favorite);
     setEnabled(m_item.available);
     const QString state = m_item.connected ? catalogtexts::connectedServer() : QString();
     setAccessibleName(catalogtexts::spoken({.name = m_text->text(),

@@ -7,6 +7,7 @@
 #include "HandOnTheme.h"
 #include "PageScrollArea.h"
 #include "PlainText.h"
+#include "RuntimeFacts.h"
 #include "SearchField.h"
 #include "ThemePalette.h"
 #include "TrayMenuText.h"
@@ -115,7 +116,12 @@ CardButton *VpnPage::addCard(const QString &title, const QString &name, int page
 
 void VpnPage::connectSignals()
 {
-    connect(&m_state, &AppState::runtimeChanged, this, &VpnPage::render);
+    connect(&m_state, &AppState::runtimeChanged, this, [this](const RuntimeInfo &runtime) {
+        if (facts::isConnected(runtime)) {
+            m_situation.connectError.clear();
+        }
+        render();
+    });
     connect(&m_state, &AppState::nodesChanged, this, &VpnPage::render);
     connect(&m_state, &AppState::killSwitchChanged, this, &VpnPage::render);
     connect(&m_durationTimer, &QTimer::timeout, this, &VpnPage::render);
@@ -147,9 +153,18 @@ void VpnPage::setDaemonAvailable(bool available, const QString &reason)
 void VpnPage::setConnectProgress(const ConnectProgress &progress)
 {
     m_situation.progress = progress;
-    if (!progress.pending) {
+    m_quickEntry->setConnecting(progress.pending);
+    if (progress.pending) {
+        m_situation.connectError.clear();
+    } else {
         m_situation.target = {};
     }
+    render();
+}
+
+void VpnPage::showConnectError(const QString &message)
+{
+    m_situation.connectError = message;
     render();
 }
 

@@ -33,6 +33,9 @@ public:
     /// Whether the daemon answers; `reason` tells the user why not.
     void setDaemonAvailable(bool available, const QString &reason);
     void setConnectProgress(const ConnectProgress &progress);
+    /// Why a connect of the user's failed. Stands in the status card, as far as the daemon
+    /// itself gives no reason, until the next operation begins or a connection is up.
+    void showConnectError(const QString &message);
     /// The place of a connect, to be named while it is in progress. Set it before the
     /// request goes out, and none after one that nobody took up; it is forgotten when the
     /// operation ends. Does nothing and returns false during an operation, which has its

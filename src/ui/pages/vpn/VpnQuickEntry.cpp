@@ -1,8 +1,8 @@
 #include "VpnQuickEntry.h"
 
 #include "AppState.h"
+#include "CatalogKeys.h"
 #include "QuickEntryContent.h"
-#include "QuickEntryKeys.h"
 #include "RecentActivityStore.h"
 #include "RuntimeFacts.h"
 #include "SearchField.h"
@@ -219,7 +219,7 @@ bool VpnQuickEntry::eventFilter(QObject *watched, QEvent *event)
 
 bool VpnQuickEntry::handleFieldKey(QKeyEvent &event)
 {
-    if (QKeySequence(event.keyCombination()) == quickentry::favoriteKey()) {
+    if (QKeySequence(event.keyCombination()) == catalogkeys::favorite()) {
         toggleFirstFavorite();
         return true;
     }
@@ -235,9 +235,7 @@ bool VpnQuickEntry::handleFieldKey(QKeyEvent &event)
         return m_open;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!event.isAutoRepeat()) {
-            handleReturn();
-        }
+        handleReturn();
         return true;
     case Qt::Key_Escape:
         if (m_open) {
@@ -287,11 +285,15 @@ void VpnQuickEntry::choose(const QuickEntryItem &item)
     }
     rememberSearch();
     close();
-    m_field.clear();
+    const bool wasConnecting = m_connecting;
     if (item.kind == QuickEntryItem::Kind::Group) {
         Q_EMIT connectSmartRequested(item.id, item.label, item.flagCode);
     } else {
         Q_EMIT connectNodeRequested(item.id, item.label, item.flagCode);
+    }
+    // Nobody should have to type a place anew that was refused.
+    if (m_connecting && !wasConnecting) {
+        m_field.clear();
     }
 }
 

@@ -37,6 +37,9 @@ public:
     /// Puts the focus on the first of the open popup's entries.
     void enterPopup();
     void applyThemePalette(const ThemePalette &palette);
+    /// A connection is being made or ended. Beginning while a place is picked, it says
+    /// that the place was taken.
+    void setConnecting(bool connecting) { m_connecting = connecting; }
 
 Q_SIGNALS:
     void connectNodeRequested(const QString &nodeID, const QString &label, const QString &flagCode);
@@ -79,5 +82,6 @@ private:
     QuickEntryCatalog m_catalog;
     bool m_catalogOutdated = true;
     bool m_open = false;
+    bool m_connecting = false;
     QTimer m_refreshTimer;
 };

@@ -1,8 +1,9 @@
 #include "VpnQuickEntryPopup.h"
 
+#include "Announce.h"
+#include "CatalogKeys.h"
 #include "ElidedLabel.h"
 #include "HandOnTheme.h"
-#include "QuickEntryKeys.h"
 #include "QuickEntryPillRow.h"
 #include "TextStyle.h"
 #include "ThemePalette.h"
@@ -19,6 +20,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -165,8 +167,26 @@ QuickEntryPillRow *VpnQuickEntryPopup::addPills(QVBoxLayout &column, int limit)
 void VpnQuickEntryPopup::setContent(const QuickEntryContent &content)
 {
     if (content != m_content) {
-        m_content = content;
+        const QuickEntryContent before = std::exchange(m_content, content);
         render();
+        announceFavorites(before);
+    }
+}
+
+/// The keyboard may be on the star, or in the field, while it is the row that tells.
+void VpnQuickEntryPopup::announceFavorites(const QuickEntryContent &before) const
+{
+    for (QuickEntryRow *row : m_rows) {
+        const QuickEntryItem &now = row->item();
+        const bool isNews =
+            row->isVisible() && std::any_of(before.items.begin(), before.items.end(),
+                                            [&now](const QuickEntryItem &was) {
+                                                return was.kind == now.kind && was.id == now.id &&
+                                                       was.favorite != now.favorite;
+                                            });
+        if (isNews) {
+            announce(*row);
+        }
     }
 }
 
@@ -175,7 +195,7 @@ void VpnQuickEntryPopup::render()
     const bool searching = m_content.searching;
     const bool hasItems = !m_content.items.isEmpty();
     m_resultsTitle->setVisible(searching);
-    m_empty->setVisible(searching && !hasItems);
+    setShownAloud(*m_empty, searching && !hasItems);
     m_searches.bar->setVisible(!m_content.searches.isEmpty());
     m_searchPills->setTexts(m_content.searches);
     m_searchPills->setVisible(!m_content.searches.isEmpty());
@@ -271,7 +291,7 @@ bool VpnQuickEntryPopup::handleKey(QAbstractButton &button, QKeyEvent &event)
         row = qobject_cast<QuickEntryRow *>(button.parentWidget());
     }
     const QAbstractButton &place = row ? *row : button;
-    if (row && QKeySequence(event.keyCombination()) == quickentry::favoriteKey()) {
+    if (row && QKeySequence(event.keyCombination()) == catalogkeys::favorite()) {
         row->toggleFavorite();
         return true;
     }
@@ -290,9 +310,7 @@ bool VpnQuickEntryPopup::handleKey(QAbstractButton &button, QKeyEvent &event)
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!event.isAutoRepeat()) {
-            button.click();
-        }
+        button.click();
         return true;
     case Qt::Key_Escape:
         Q_EMIT closeRequested();

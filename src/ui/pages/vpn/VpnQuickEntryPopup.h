@@ -72,6 +72,7 @@ private:
     QuickEntryPillRow *addPills(QVBoxLayout &column, int limit);
     void render();
     void renderRows();
+    void announceFavorites(const QuickEntryContent &before) const;
     void watch(QAbstractButton *button);
     bool handleKey(QAbstractButton &button, QKeyEvent &event);
 

@@ -64,9 +64,19 @@ QString locationText(const AppState &state, const VpnSituation &situation)
     if (QString target = targetLabel(situation); !target.isEmpty()) {
         return target;
     }
-    const QString selected =
+    QString selected =
         NodeMenuModel::label(facts::effectiveSelected(state.runtime(), state.nodes()));
-    return selected.isEmpty() ? smartSelectText() : selected;
+    if (!selected.isEmpty()) {
+        return selected;
+    }
+    // What a daemon would choose that never told anything, nobody knows.
+    const bool isKnown = state.runtime() != RuntimeInfo{} || !state.nodes().nodes.isEmpty();
+    return situation.available || isKnown ? smartSelectText() : unavailableText();
+}
+
+QString modeText(const ModeInfo &mode, bool available)
+{
+    return available || mode.known ? labels::mode(mode) : unavailableText();
 }
 
 QString killSwitchText(const AppState &state, bool available)
@@ -95,8 +105,9 @@ void fillDetail(VpnSummary &summary, const AppState &state, const VpnSituation &
         summary.detail = waitingText();
     } else {
         const bool silent = runtime.lastError.trimmed().isEmpty();
-        summary.detail = silent ? runtime.tunnelReason : runtime.lastError;
-        summary.detailIsError = !silent;
+        const QString &error = silent ? situation.connectError : runtime.lastError;
+        summary.detailIsError = !error.isEmpty();
+        summary.detail = summary.detailIsError ? error : runtime.tunnelReason;
     }
     summary.detail = plaintext::singleLine(summary.detail, kMaxDetailLength);
 }
@@ -146,7 +157,7 @@ VpnSummary vpnSummary(const AppState &state, const VpnSituation &situation, cons
     VpnSummary summary;
     summary.action = primaryAction(runtime, situation.available, situation.progress);
     summary.location = locationText(state, situation);
-    summary.mode = labels::mode(runtime.mode);
+    summary.mode = modeText(runtime.mode, situation.available);
     summary.killSwitch = killSwitchText(state, situation.available);
     summary.localNetwork = situation.available && runtime.mode.known
                                ? labels::localNetwork(runtime.mode.localNetwork)

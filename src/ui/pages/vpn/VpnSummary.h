@@ -16,6 +16,7 @@ struct VpnSituation
     QString unavailableReason; ///< Why it doesn't; empty before anything is known.
     ConnectProgress progress;
     PendingConnectTarget target; ///< Counts only while a connect is in progress.
+    QString connectError;        ///< Why the last connect failed; may be empty.
 };
 
 /// Every text of the VPN page that depends on the state, as plain single lines.
