@@ -166,7 +166,7 @@ QJsonObject SimSplit::dnsJson(bool chinaDirect, bool changed, bool reloaded) con
     QStringList servers = m_dnsServers;
     QString source = u"config"_s;
     if (servers.isEmpty() && policy == "tunnel-only"_L1) {
-        source = u"none"_s;
+        source.clear();
     } else if (servers.isEmpty()) {
         servers = {u"192.168.1.1"_s};
         source = u"system"_s;

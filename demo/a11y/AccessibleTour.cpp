@@ -129,6 +129,17 @@ bool AccessibleTour::dialogs()
          typeInto(u"Rules, one per line"_s, u"a.example"_s) && leaveDialog(3) && lookAtDialog() &&
          press(u"Discard Changes"_s) && until([this] { return windows().size() == 1; }) && ok;
     // The kill switch and the proxy exclude each other.
+    const auto isChosen = [this](const QString &name) {
+        return until([this, &name] {
+            const auto shown = window();
+            const auto choice = shown ? shown->find(u"radio button"_s, name) : std::nullopt;
+            return choice && choice->states().contains("checked"_L1);
+        });
+    };
+    ok = openPage(settings) && press(u"Kill Switch On"_s) && isChosen(u"Kill Switch On"_s) &&
+         openDialog(u"Mode"_s, u"Vantu Proxy"_s) && leaveDialog(1) &&
+         openDialog(settings, u"Kill Switch Off"_s) && press(u"Turn Off Kill Switch"_s) &&
+         isChosen(u"Kill Switch Off"_s) && ok;
     ok = openPage(u"Mode"_s) && press(u"Vantu Proxy"_s) &&
          openDialog(settings, u"Kill Switch On"_s) && leaveDialog(1) && ok;
     return ok;

@@ -68,10 +68,9 @@ public:
     /// The largest picture of the icon; null when there is none.
     QImage icon(const QString &item = {});
 
-    /// A left, middle or right press at a place of the screen.
+    /// A left or middle press at a place of the screen.
     bool activate(const QString &item = {}) { return press(u"Activate", item); }
     bool secondaryActivate(const QString &item = {}) { return press(u"SecondaryActivate", item); }
-    bool contextMenu(const QString &item = {}) { return press(u"ContextMenu", item); }
 
     /// The whole menu as it stands; its root has id 0.
     TrayMenuItem menu(const QString &item = {});

@@ -9,6 +9,7 @@
 #include "RuntimeFacts.h"
 #include "SimDaemon.h"
 #include "SimServer.h"
+#include "Startup.h"
 #include "TranslationManager.h"
 #include "VantuAppShell.h"
 #include "WindowController.h"
@@ -20,6 +21,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QTabBar>
 #include <QTemporaryDir>
@@ -201,22 +203,78 @@ private:
         take(window, u"vpn-notice"_s);
     }
 
-    /// The dialog that the button opens.
-    void takeDialog(MainWindow &window, Page page, const QString &button, const QString &name)
+    /// The dialog that the button opens; null, after saying so, when none comes.
+    QWidget *openDialog(MainWindow &window, Page page, const QString &button)
     {
         window.showPage(static_cast<int>(page));
         auto *opener = find<QAbstractButton>(window, button);
         if (!opener || !waitFor([opener] { return opener->isVisible() && opener->isEnabled(); })) {
-            miss(name);
-            return;
+            miss(button);
+            return nullptr;
         }
         opener->click();
         if (!waitFor([] { return QApplication::activeModalWidget() != nullptr; })) {
-            miss(name);
+            miss(button);
+        }
+        return QApplication::activeModalWidget();
+    }
+
+    void takeDialog(MainWindow &window, Page page, const QString &button, const QString &name)
+    {
+        if (QWidget *dialog = openDialog(window, page, button)) {
+            take(*dialog, name);
+            dialog->close();
+        }
+    }
+
+    /// The editor of rules, and what it asks when it is left with a change in it.
+    void takeRules(MainWindow &window)
+    {
+        QWidget *editor = openDialog(window, Page::Mode, u"VantuModeVantuCustomRulesEdit"_s);
+        auto *text =
+            editor ? editor->findChild<QPlainTextEdit *>(u"VantuSplitRulesEditorText"_s) : nullptr;
+        if (!text || !waitFor([text] { return !text->isReadOnly(); })) {
+            miss(u"rules"_s);
             return;
         }
-        take(*QApplication::activeModalWidget(), name);
-        QApplication::activeModalWidget()->close();
+        take(*editor, u"rules"_s);
+        text->insertPlainText(u"domain:a.example\n"_s);
+        editor->close();
+        QWidget *question = QApplication::activeModalWidget();
+        auto *discard = question
+                            ? question->findChild<QAbstractButton *>(u"VantuConfirmDialogAccept"_s)
+                            : nullptr;
+        if (!discard) {
+            miss(u"rules-discard"_s);
+            return;
+        }
+        take(*question, u"rules-discard"_s);
+        discard->click();
+    }
+
+    /// What is asked about the kill switch, each where it comes up.
+    void takeKillSwitchQuestions(VantuAppShell &shell, MainWindow &window)
+    {
+        const auto turn = [this, &shell](bool on) {
+            shell.setSettingsKillSwitchEnabled(on);
+            const auto turned = [&shell, on] {
+                return facts::isKillSwitchOn(facts::effectiveKillSwitch(shell.state())) == on;
+            };
+            if (!waitFor(turned)) {
+                miss(u"the kill switch"_s);
+            }
+        };
+        takeDialog(window, Page::Settings, u"VantuSettingsKillSwitchLockdown"_s, u"lockdown"_s);
+        turn(true);
+        takeDialog(window, Page::Settings, u"VantuSettingsKillSwitchOff"_s, u"kill-switch-off"_s);
+        takeDialog(window, Page::Mode, u"VantuModeVantuProxy"_s, u"proxy-refused"_s);
+        turn(false);
+        shell.setModePreference(moderequest::proxyGlobal());
+        if (!waitFor([&shell] { return facts::isProxyMode(shell.state().runtime().mode); })) {
+            miss(u"the proxy mode"_s);
+        }
+        takeDialog(window, Page::Settings, u"VantuSettingsKillSwitchOn"_s,
+                   u"kill-switch-refused"_s);
     }
 
     void takeDialogs(VantuAppShell &shell, MainWindow &window)
@@ -227,10 +285,10 @@ private:
         }
         window.showPage(static_cast<int>(Page::Mode));
         take(window, u"mode-split"_s);
-        takeDialog(window, Page::Mode, u"VantuModeVantuCustomRulesEdit"_s, u"rules"_s);
+        takeRules(window);
         takeDialog(window, Page::Mode, u"VantuModeVantuRegions"_s, u"regions"_s);
         takeDialog(window, Page::Settings, u"VantuSettingsLanguage"_s, u"language"_s);
-        takeDialog(window, Page::Settings, u"VantuSettingsKillSwitchLockdown"_s, u"lockdown"_s);
+        takeKillSwitchQuestions(shell, window);
         shell.checkSettingsUpdate();
         QWidget *dialog = nullptr;
         const auto updateDialog = [&dialog] {
@@ -277,7 +335,7 @@ int main(int argc, char **argv)
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     QApplication::setStyle(u"Fusion"_s);
     const QApplication application(argc, argv);
-    QGuiApplication::setQuitOnLastWindowClosed(false);
+    setProgramIdentity();
 
     QCommandLineParser parser;
     parser.addHelpOption();
