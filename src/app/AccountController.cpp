@@ -97,6 +97,7 @@ void AccountController::handleLogin(const RuntimeInfo &info, const QString &erro
     if (!error.isEmpty()) {
         return;
     }
+    Q_EMIT accountChanged(true);
     storeRuntime(info);
     fetchUser();
 }
@@ -115,6 +116,7 @@ void AccountController::handleLogout(quint64 requestId, const RuntimeInfo &info,
         // An answer still on its way would bring the old account back.
         m_parts.link.forget(ControlRequest::FetchUser);
         m_parts.state.clearUser();
+        Q_EMIT accountChanged(false);
         storeRuntime(info);
     }
     Q_EMIT logoutEnded(requestId, info, failure);

@@ -60,6 +60,9 @@ Q_SIGNALS:
     /// `failure` is the text for the user, empty on success.
     void logoutEnded(quint64 requestId, const RuntimeInfo &info, const QString &failure);
 
+    /// Another account, or none, is signed in now.
+    void accountChanged(bool signedIn);
+
 private:
     bool changeAllowed(OperationOrigin origin);
     void setBusy(bool busy);

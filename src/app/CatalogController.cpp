@@ -150,6 +150,12 @@ void CatalogController::finishWatch(bool refreshed)
     }
 }
 
+void CatalogController::changeAccount(bool signedIn)
+{
+    m_signedIn = signedIn;
+    fetch();
+}
+
 void CatalogController::noteRuntime(const RuntimeInfo &runtime)
 {
     const bool refreshing = runtime.catalogRefresh == wire::kCatalogRefreshing;
@@ -195,8 +201,8 @@ void CatalogController::handleNodeGroups(const NodeGroupsInfo &groups, const QSt
     if (error.isEmpty()) {
         m_groupsMissed = false;
         m_state.setNodeGroups(groups);
-        Q_EMIT groupsReceived();
     } else if (!std::exchange(m_groupsMissed, true)) {
         m_notices.error(error, ShellText::tr("Could not refresh location groups"));
     }
+    Q_EMIT groupsAnswered(error.isEmpty());
 }

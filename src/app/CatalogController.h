@@ -35,6 +35,9 @@ public:
     void fetch();
     void fetchNodes();
     void fetchGroups();
+    /// Fetches for another account, or for none. One that signs in or out elsewhere is
+    /// seen by the status.
+    void changeAccount(bool signedIn);
     /// Asks quietly for nodes and groups that could not be had; to be called whenever the
     /// daemon answered.
     void fetchMissed();
@@ -57,8 +60,8 @@ public:
     void handleNodeGroups(const NodeGroupsInfo &groups, const QString &error);
 
 Q_SIGNALS:
-    /// The groups are those of now.
-    void groupsReceived();
+    /// `received`: the groups are those of now; else they could not be had.
+    void groupsAnswered(bool received);
     /// A refresh was sent, or the last one was answered.
     void refreshingChanged(bool refreshing);
 
@@ -82,5 +85,5 @@ private:
     bool m_held = false;
     bool m_nodesMissed = false;
     bool m_groupsMissed = false;
-    std::optional<bool> m_signedIn; ///< As far as the status told.
+    std::optional<bool> m_signedIn; ///< As far as anybody told.
 };

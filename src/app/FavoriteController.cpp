@@ -20,7 +20,7 @@ FavoriteController::FavoriteController(RequestLink &link, AppState &state, Notic
     , m_compatibility(compatibility)
     , m_catalog(catalog)
 {
-    connect(&catalog, &CatalogController::groupsReceived, this, &FavoriteController::dropAccepted);
+    connect(&catalog, &CatalogController::groupsAnswered, this, &FavoriteController::handleGroups);
 }
 
 void FavoriteController::setFavorite(const QString &nodeID, bool favorite)
@@ -39,9 +39,9 @@ void FavoriteController::setFavorite(const QString &nodeID, bool favorite)
         publish();
         return;
     }
-    const auto same = std::find_if(m_wishes.begin(), m_wishes.end(),
-                                   [&id](const Wish &wish) { return wish.nodeID == id; });
-    if (same != m_wishes.end()) {
+    const auto latest = std::find_if(m_wishes.crbegin(), m_wishes.crend(),
+                                     [&id](const Wish &wish) { return wish.nodeID == id; });
+    if (latest != m_wishes.crend() && !latest->overdue) {
         return; // The list lets nobody change their mind before the answer.
     }
     m_wishes.append({id, favorite, false});
@@ -85,20 +85,26 @@ void FavoriteController::handleFavorite(const NodesInfo &nodes, const QString &e
     sendNext();
 }
 
-void FavoriteController::dropAccepted()
+void FavoriteController::handleGroups(bool received)
 {
-    const qsizetype before = m_wishes.size();
-    m_wishes.removeIf([](const Wish &wish) { return wish.accepted; });
-    if (m_wishes.size() != before) {
-        publish();
+    if (received) {
+        m_wishes.removeIf([](const Wish &wish) { return wish.accepted; });
     }
+    for (Wish &wish : m_wishes) {
+        wish.overdue = wish.accepted;
+    }
+    publish();
 }
 
 void FavoriteController::publish()
 {
     QHash<QString, bool> favorites;
+    QSet<QString> awaited;
     for (const Wish &wish : std::as_const(m_wishes)) {
         favorites.insert(wish.nodeID, wish.favorite);
+        if (!wish.overdue) {
+            awaited.insert(wish.nodeID);
+        }
     }
-    Q_EMIT unconfirmedChanged(favorites);
+    Q_EMIT unconfirmedChanged(favorites, awaited);
 }

@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QList>
 #include <QObject>
+#include <QSet>
 #include <QString>
 
 class AppState;
@@ -33,8 +34,9 @@ public:
 
 Q_SIGNALS:
     /// The wishes that the daemon has not confirmed, by node id. A wish leaves the list
-    /// when it was refused, or when the groups that show it have arrived.
-    void unconfirmedChanged(const QHash<QString, bool> &favorites);
+    /// when it was refused, or when the groups that show it have arrived. Those that are
+    /// `awaited` can't be changed meanwhile.
+    void unconfirmedChanged(const QHash<QString, bool> &favorites, const QSet<QString> &awaited);
 
 private:
     struct Wish
@@ -42,10 +44,11 @@ private:
         QString nodeID;
         bool favorite = false;
         bool accepted = false; ///< Only the groups are still awaited.
+        bool overdue = false;  ///< They could not be had.
     };
 
     void sendNext();
-    void dropAccepted();
+    void handleGroups(bool received);
     void publish();
 
     RequestLink &m_link;

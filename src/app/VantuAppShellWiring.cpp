@@ -190,6 +190,8 @@ void VantuAppShell::connectConcerns()
             });
     connect(m_account.get(), &AccountController::logoutEnded, m_tray.get(),
             &VantuTrayApp::handleLogoutFinished);
+    connect(m_account.get(), &AccountController::accountChanged, m_catalog.get(),
+            &CatalogController::changeAccount);
     connect(m_account.get(), &AccountController::renewalLinkReady, m_windows.get(),
             &WindowController::openPrivateLink);
 

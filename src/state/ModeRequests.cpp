@@ -12,6 +12,15 @@ bool isSameWord(const QString &left, const QString &right)
     return left.trimmed().compare(right.trimmed(), Qt::CaseInsensitive) == 0;
 }
 
+/// Several words stand for the same choice.
+QLatin1StringView systemProxyChoice(const QString &value)
+{
+    if (isSameWord(value, wire::kSystemProxyLock) || isSameWord(value, wire::kSystemProxyLockOn)) {
+        return wire::kSystemProxyLock;
+    }
+    return isSameWord(value, wire::kOn) ? wire::kOn : wire::kOff;
+}
+
 ModeInfo request(QLatin1StringView transport, QLatin1StringView policy = {})
 {
     ModeInfo mode;
@@ -183,16 +192,22 @@ bool isShownBy(const ModeInfo &request, const ModeInfo &answer)
     const auto isShown = [](const QString &asked, const QString &shown) {
         return asked.isEmpty() || isSameWord(asked, shown);
     };
-    // Both stand for the same choice.
-    const QString systemProxy = facts::isWord(answer.systemProxy, wire::kSystemProxyLockOn)
-                                    ? QString(wire::kSystemProxyLock)
-                                    : answer.systemProxy;
+    // What isn't named is off, or direct, as the menus have it.
+    const auto isProxied = [](const QString &asked, const QString &shown) {
+        return asked.isEmpty() || systemProxyChoice(asked) == systemProxyChoice(shown);
+    };
+    const auto isGuarded = [](const QString &asked, const QString &shown) {
+        const auto isProtected = [](const QString &value) {
+            return facts::isWord(value, wire::kLocalNetworkProtected);
+        };
+        return asked.isEmpty() || isProtected(asked) == isProtected(shown);
+    };
     // The policy is compared by meaning, because a daemon may name a split in
     // its own way.
     return answer.known && isShown(request.transport, answer.transport) &&
            isShown(request.region, answer.region) &&
-           isShown(request.localNetwork, answer.localNetwork) &&
-           isShown(request.systemProxy, systemProxy) &&
+           isGuarded(request.localNetwork, answer.localNetwork) &&
+           isProxied(request.systemProxy, answer.systemProxy) &&
            (request.policy.isEmpty() || facts::isSplit(request) == facts::isSplit(answer)) &&
            (!request.splitProfile.present ||
             ::isShownBy(request.splitProfile, vantuVPNProfile(answer))) &&

@@ -205,7 +205,8 @@ void TrayChanges::takeKillSwitch(quint64 requestId, const KillSwitchInfo &info,
     const bool failed = !errorMessage.isEmpty();
     if (!failed) {
         m_state.setKillSwitch(info);
-    } else if (!isChange && !m_poll.hasStatusFailed() && m_state.runtime().killSwitch.known) {
+    } else if (!isChange && !m_operations.any() && !m_poll.hasStatusFailed() &&
+               m_state.runtime().killSwitch.known) {
         // The status that was read with it is younger than what is held.
         m_state.setKillSwitch({});
     }

@@ -106,15 +106,15 @@ struct TrayCondition
     bool statusKnown = false;  ///< A status was received at all.
     bool statusFailed = false; ///< The latest status request failed.
     QString statusError;       ///< Its error, maybe empty.
-    bool busy = false;         ///< Any operation locks the menu.
-    QString progressText;      ///< Of that operation; empty keeps the status line.
+    QString progressText;      ///< Of the operation under way; empty keeps the status line.
+    bool busy = false;         ///< An operation is under way, and locks the menu.
     bool unheard = false;      ///< It has kept the daemon from being asked for long.
     bool connectBusy = false;  ///< That operation is a connect.
     bool connectCancellable = false;
     bool nodesHeld = false;     ///< Nodes were received at all, if only an empty list.
     bool nodesInFlight = false; ///< A request of nodes or node groups.
-    bool nodesFailed = false;   ///< The latest answer of nodes was an error.
-    bool groupsFailed = false;  ///< The same of node groups.
+    bool nodesFailed = false;   ///< They could not be had.
+    bool groupsFailed = false;  ///< Nor the node groups.
     bool refreshing = false;    ///< That request is the user's refresh.
     bool userInFlight = false;
     bool logsInFlight = false;

@@ -174,15 +174,3 @@ void TrayPoll::runtimeChanged(const RuntimeInfo &runtime)
         m_state.clearUser();
     }
 }
-
-void TrayPoll::nodesChanged()
-{
-    m_nodesHeld = true;
-    m_nodesFailed = false;
-}
-
-void TrayPoll::nodeGroupsChanged()
-{
-    m_groupsHeld = true;
-    m_groupsFailed = false;
-}

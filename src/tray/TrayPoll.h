@@ -55,9 +55,9 @@ public:
     const QString &statusError() const { return m_statusError; }
     /// Nodes were received at all, if only an empty list.
     bool areNodesHeld() const { return m_nodesHeld; }
-    /// The latest answer of nodes, or of node groups, was an error.
-    bool haveNodesFailed() const { return m_nodesFailed; }
-    bool haveGroupsFailed() const { return m_groupsFailed; }
+    /// The latest answer was an error, and there is none from before.
+    bool haveNodesFailed() const { return m_nodesFailed && !m_nodesHeld; }
+    bool haveGroupsFailed() const { return m_groupsFailed && !m_groupsHeld; }
     bool isCatalogueInFlight() const;
     /// The catalogue is under way because the user refreshes it.
     bool isRefreshing() const { return m_refreshing && isCatalogueInFlight(); }
@@ -71,8 +71,8 @@ public:
 
     // Changes of the store, whoever made them.
     void runtimeChanged(const RuntimeInfo &runtime);
-    void nodesChanged();
-    void nodeGroupsChanged();
+    void nodesChanged() { m_nodesHeld = true; }
+    void nodeGroupsChanged() { m_groupsHeld = true; }
 
 Q_SIGNALS:
     void statusAnswered(bool succeeded);

@@ -297,9 +297,10 @@ void MainWindow::setConnectProgress(const ConnectProgress &progress)
     m_vpn->setConnectProgress(progress);
 }
 
-void MainWindow::setUnconfirmedFavorites(const QHash<QString, bool> &favorites)
+void MainWindow::setUnconfirmedFavorites(const QHash<QString, bool> &favorites,
+                                         const QSet<QString> &awaited)
 {
-    m_locations->setUnconfirmedFavorites(favorites);
+    m_locations->setUnconfirmedFavorites(favorites, awaited);
 }
 
 void MainWindow::noteCatalogReceived()

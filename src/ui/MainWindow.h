@@ -9,6 +9,7 @@
 
 #include <QHash>
 #include <QMainWindow>
+#include <QSet>
 #include <QUrl>
 
 #include <functional>
@@ -58,8 +59,10 @@ public:
     /// Whether the daemon answers; `reason` tells the user why not.
     void setDaemonAvailable(bool available, const QString &reason);
     void setConnectProgress(const ConnectProgress &progress);
-    /// Favourites that the daemon has not confirmed yet, by node id.
-    void setUnconfirmedFavorites(const QHash<QString, bool> &favorites);
+    /// Favourites that the daemon has not confirmed yet, by node id; those `awaited` are
+    /// under way.
+    void setUnconfirmedFavorites(const QHash<QString, bool> &favorites,
+                                 const QSet<QString> &awaited);
     /// A catalogue was received, even if there is nothing in it.
     void noteCatalogReceived();
     /// What runs for the user at the moment; the pages show it.

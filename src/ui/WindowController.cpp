@@ -71,7 +71,7 @@ void WindowController::ensureWindow()
     m_window->setDaemonAvailable(m_daemonAvailable, m_unavailableReason);
     m_window->setConnectProgress(m_progress);
     m_window->setActivity(m_activity);
-    m_window->setUnconfirmedFavorites(m_unconfirmedFavorites);
+    m_window->setUnconfirmedFavorites(m_unconfirmedFavorites, m_awaitedFavorites);
     if (m_catalogReceived) {
         m_window->noteCatalogReceived();
     }
@@ -278,11 +278,13 @@ void WindowController::activateFromApplication()
     showOrRaise();
 }
 
-void WindowController::setUnconfirmedFavorites(const QHash<QString, bool> &favorites)
+void WindowController::setUnconfirmedFavorites(const QHash<QString, bool> &favorites,
+                                               const QSet<QString> &awaited)
 {
     m_unconfirmedFavorites = favorites;
+    m_awaitedFavorites = awaited;
     if (m_window) {
-        m_window->setUnconfirmedFavorites(favorites);
+        m_window->setUnconfirmedFavorites(favorites, awaited);
     }
 }
 

@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 #include <QUrl>
 
 #include <functional>
@@ -79,7 +80,8 @@ public:
     void openLogDirectory(const ConfigPaths &paths);
 
     /// Wishes that the daemon has not confirmed; see MainWindow.
-    void setUnconfirmedFavorites(const QHash<QString, bool> &favorites);
+    void setUnconfirmedFavorites(const QHash<QString, bool> &favorites,
+                                 const QSet<QString> &awaited);
     void clearLocationsError();
     /// A catalogue was received, even if there is nothing in it.
     void noteCatalogReceived();
@@ -178,6 +180,7 @@ private:
     OperationActivity m_activity;
     UpdateInfo m_update;
     QHash<QString, bool> m_unconfirmedFavorites;
+    QSet<QString> m_awaitedFavorites;
     bool m_catalogReceived = false;
     int m_windowsCreated = 0;
     LinkOpener m_linkOpener;

@@ -351,7 +351,8 @@ void TestLocations::favorites()
     f.clickStar(berlin()); // still on its way
     QVERIFY(f.favoriteSpy.isEmpty());
 
-    f.page.setUnconfirmedFavorites({{u"t1"_s, true}}); // refused; another one is under way
+    f.page.setUnconfirmedFavorites({{u"t1"_s, true}},
+                                   {u"t1"_s}); // refused; another one is under way
     QVERIFY(isFavorite(berlin()));
     QTest::keyClick(&f.tree, Qt::Key_D, Qt::ControlModifier);
     QCOMPARE(f.favoriteSpy.takeFirst(), (QVariantList{u"b1"_s, false}));

@@ -444,13 +444,16 @@ void LocationsPage::onFavoriteClicked(const QModelIndex &index, bool favorite)
     Q_EMIT favoriteNodeRequested(nodeId, favorite);
 }
 
-void LocationsPage::setUnconfirmedFavorites(const QHash<QString, bool> &favorites)
+void LocationsPage::setUnconfirmedFavorites(const QHash<QString, bool> &favorites,
+                                            const QSet<QString> &awaited)
 {
     m_catalog.clearFavoriteOverrides();
     m_catalog.clearFavoritePending();
     for (auto favorite = favorites.cbegin(); favorite != favorites.cend(); ++favorite) {
         m_catalog.setFavoriteOverride(favorite.key(), favorite.value());
-        m_catalog.setFavoritePending(favorite.key());
+    }
+    for (const QString &nodeId : awaited) {
+        m_catalog.setFavoritePending(nodeId);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "RestingFocus.h"
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QWidget>
 
@@ -68,8 +69,9 @@ public:
     void clearFavoriteOverrides() { m_catalog.clearFavoriteOverrides(); }
     void clearFavoritePending() { m_catalog.clearFavoritePending(); }
     /// Shows exactly these favourites as set by the user and not yet confirmed, by node
-    /// id, and all others as the catalogue has them.
-    void setUnconfirmedFavorites(const QHash<QString, bool> &favorites);
+    /// id, and all others as the catalogue has them. Those `awaited` can't be changed.
+    void setUnconfirmedFavorites(const QHash<QString, bool> &favorites,
+                                 const QSet<QString> &awaited);
 
 Q_SIGNALS:
     void refreshRequested();

@@ -27,6 +27,16 @@ constexpr int kMinimumPingWidth = 42;
 constexpr int kPingPadding = 6;
 constexpr int kWidestPing = 999;
 
+/// Checked when the daemon says so, and not by the click that asks it.
+class Star final : public QToolButton
+{
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void nextCheckState() override {}
+};
+
 } // namespace
 
 QuickEntryRow::QuickEntryRow(QWidget *parent)
@@ -35,7 +45,7 @@ QuickEntryRow::QuickEntryRow(QWidget *parent)
     , m_text(new ElidedLabel(this))
     , m_ping(new ElidedLabel(this))
     , m_bars(new QuickEntrySignalBars(this))
-    , m_star(new QToolButton(this))
+    , m_star(new Star(this))
 {
     setObjectName(u"VantuVPNQuickEntryItem"_s);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -107,7 +117,6 @@ void QuickEntryRow::setLook(const QuickEntryLook &look)
 
 void QuickEntryRow::toggleFavorite()
 {
-    m_star->setChecked(m_item.favorite); // Not what was clicked.
     if (m_item.kind == QuickEntryItem::Kind::Node && m_item.available) {
         Q_EMIT favoriteRequested(m_item.id, !m_item.favorite);
     }

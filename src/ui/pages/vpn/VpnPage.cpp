@@ -117,7 +117,7 @@ CardButton *VpnPage::addCard(const QString &title, const QString &name, int page
 void VpnPage::connectSignals()
 {
     connect(&m_state, &AppState::runtimeChanged, this, [this](const RuntimeInfo &runtime) {
-        if (facts::isConnected(runtime)) {
+        if (facts::isConnected(runtime) || !facts::isSignedIn(runtime)) {
             m_situation.connectError.clear();
         }
         render();
@@ -145,6 +145,9 @@ void VpnPage::connectSignals()
 
 void VpnPage::setDaemonAvailable(bool available, const QString &reason)
 {
+    if (available && !m_situation.available) {
+        m_situation.connectError.clear(); // It was about the time before.
+    }
     m_situation.available = available;
     m_situation.unavailableReason = reason;
     render();
@@ -164,8 +167,10 @@ void VpnPage::setConnectProgress(const ConnectProgress &progress)
 
 void VpnPage::showConnectError(const QString &message)
 {
-    m_situation.connectError = message;
-    render();
+    if (!facts::isConnected(m_state.runtime())) {
+        m_situation.connectError = message;
+        render();
+    }
 }
 
 bool VpnPage::setPendingConnectTarget(const PendingConnectTarget &target)

@@ -34,7 +34,8 @@ public:
     void setDaemonAvailable(bool available, const QString &reason);
     void setConnectProgress(const ConnectProgress &progress);
     /// Why a connect of the user's failed. Stands in the status card, as far as the daemon
-    /// itself gives no reason, until the next operation begins or a connection is up.
+    /// itself gives no reason, until the next operation begins, a connection is up, the
+    /// account signs out or the daemon comes back. Not kept while a connection stands.
     void showConnectError(const QString &message);
     /// The place of a connect, to be named while it is in progress. Set it before the
     /// request goes out, and none after one that nobody took up; it is forgotten when the
