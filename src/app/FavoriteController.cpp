@@ -87,6 +87,9 @@ void FavoriteController::handleFavorite(const NodesInfo &nodes, const QString &e
 
 void FavoriteController::handleGroups(bool received)
 {
+    if (m_wishes.isEmpty()) {
+        return;
+    }
     if (received) {
         m_wishes.removeIf([](const Wish &wish) { return wish.accepted; });
     }

@@ -12,15 +12,6 @@ bool isSameWord(const QString &left, const QString &right)
     return left.trimmed().compare(right.trimmed(), Qt::CaseInsensitive) == 0;
 }
 
-/// Several words stand for the same choice.
-QLatin1StringView systemProxyChoice(const QString &value)
-{
-    if (isSameWord(value, wire::kSystemProxyLock) || isSameWord(value, wire::kSystemProxyLockOn)) {
-        return wire::kSystemProxyLock;
-    }
-    return isSameWord(value, wire::kOn) ? wire::kOn : wire::kOff;
-}
-
 ModeInfo request(QLatin1StringView transport, QLatin1StringView policy = {})
 {
     ModeInfo mode;
@@ -194,7 +185,8 @@ bool isShownBy(const ModeInfo &request, const ModeInfo &answer)
     };
     // What isn't named is off, or direct, as the menus have it.
     const auto isProxied = [](const QString &asked, const QString &shown) {
-        return asked.isEmpty() || systemProxyChoice(asked) == systemProxyChoice(shown);
+        return asked.isEmpty() ||
+               facts::systemProxyChoice(asked) == facts::systemProxyChoice(shown);
     };
     const auto isGuarded = [](const QString &asked, const QString &shown) {
         const auto isProtected = [](const QString &value) {

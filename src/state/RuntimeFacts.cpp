@@ -101,6 +101,14 @@ bool isProxyMode(const ModeInfo &mode)
     return isWord(mode.transport, wire::kTransportProxy);
 }
 
+QLatin1StringView systemProxyChoice(const QString &value)
+{
+    if (value == wire::kSystemProxyLock || value == wire::kSystemProxyLockOn) {
+        return wire::kSystemProxyLock;
+    }
+    return value == wire::kOn ? wire::kOn : wire::kOff;
+}
+
 bool isVantuVPNMode(const ModeInfo &mode)
 {
     return isWord(mode.transport, wire::kTransportVantuVPN);

@@ -41,6 +41,10 @@ bool isSignedIn(const RuntimeInfo &runtime);
 bool isProxyMode(const ModeInfo &mode);
 bool isVantuVPNMode(const ModeInfo &mode);
 
+/// The choice that a system-proxy value stands for, compared exactly: "lock" or "on", and
+/// "off" for anything else, nothing included.
+QLatin1StringView systemProxyChoice(const QString &value);
+
 /// A VantuVPN or proxy mode that divides traffic.
 bool isSplit(const ModeInfo &mode);
 

@@ -101,10 +101,11 @@ QString route(const QString &route)
 
 QString systemProxy(const QString &value)
 {
-    if (value == wire::kSystemProxyLock || value == wire::kSystemProxyLockOn) {
+    const QLatin1StringView choice = facts::systemProxyChoice(value);
+    if (choice == wire::kSystemProxyLock) {
         return TrayMenuText::lock();
     }
-    return value == wire::kOn ? TrayMenuText::on() : TrayMenuText::off();
+    return choice == wire::kOn ? TrayMenuText::on() : TrayMenuText::off();
 }
 
 QString localNetwork(const QString &value)

@@ -277,12 +277,10 @@ void Derivation::deriveSplitOptions()
 
 void Derivation::deriveNetwork()
 {
-    const QString value = m_mode.systemProxy;
-    const bool lock = value == wire::kSystemProxyLock || value == wire::kSystemProxyLockOn;
-    const bool on = value == wire::kOn;
-    check(TrayEntry::SystemProxyOff, m_mode.known && !lock && !on, m_idle);
-    check(TrayEntry::SystemProxyOn, on, m_idle);
-    check(TrayEntry::SystemProxyLock, lock, m_idle);
+    const QLatin1StringView choice = facts::systemProxyChoice(m_mode.systemProxy);
+    check(TrayEntry::SystemProxyOff, m_mode.known && choice == wire::kOff, m_idle);
+    check(TrayEntry::SystemProxyOn, choice == wire::kOn, m_idle);
+    check(TrayEntry::SystemProxyLock, choice == wire::kSystemProxyLock, m_idle);
 
     const bool isProtected = m_mode.localNetwork == wire::kLocalNetworkProtected;
     check(TrayEntry::LocalNetworkDirect, m_mode.known && !isProtected, m_idle && !m_lockdown);
